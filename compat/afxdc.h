@@ -1,0 +1,178 @@
+// MFC's device context wrapper. As in MFC, output goes to m_hDC and attribute queries to
+// m_hAttribDC; setters of colours, modes and selected objects change both handles when they
+// differ, and SelectObject answers the previously selected object through FromHandle.
+#pragma once
+#include "afxgdi.h"
+#include "afxstr.h"
+#include "afxtypes.h"
+
+class CDC {
+public:
+    HDC m_hDC = nullptr;
+    HDC m_hAttribDC = nullptr;
+
+    CDC() = default;
+    CDC(const CDC&) = delete;
+    CDC& operator=(const CDC&) = delete;
+    virtual ~CDC() { if (m_hDC != nullptr) ::DeleteDC(Detach()); }
+
+    operator HDC() const { return m_hDC; }
+    HDC GetSafeHdc() const { return m_hDC; }
+    BOOL Attach(HDC hDC)
+    {
+        if (hDC == nullptr) return FALSE;
+        m_hDC = m_hAttribDC = hDC;
+        return TRUE;
+    }
+    HDC Detach()
+    {
+        HDC h = m_hDC;
+        m_hDC = m_hAttribDC = nullptr;
+        return h;
+    }
+    virtual void SetAttribDC(HDC hDC) { m_hAttribDC = hDC; }
+    virtual void SetOutputDC(HDC hDC) { m_hDC = hDC; }
+    virtual void ReleaseAttribDC() { m_hAttribDC = nullptr; }
+    virtual void ReleaseOutputDC() { m_hDC = nullptr; }
+
+    BOOL CreateCompatibleDC(CDC* pDC) { return Attach(::CreateCompatibleDC(pDC ? pDC->m_hDC : nullptr)); }
+    BOOL DeleteDC() { return m_hDC ? ::DeleteDC(Detach()) : FALSE; }
+    virtual int SaveDC()
+    {
+        int saved = m_hAttribDC ? ::SaveDC(m_hAttribDC) : 0;
+        if (m_hDC != m_hAttribDC && ::SaveDC(m_hDC) != 0) saved = -1;
+        return saved;
+    }
+    virtual BOOL RestoreDC(int nSavedDC)
+    {
+        BOOL ok = TRUE;
+        if (m_hDC != m_hAttribDC) ok = ::RestoreDC(m_hDC, nSavedDC);
+        if (m_hAttribDC != nullptr) ok = ok && ::RestoreDC(m_hAttribDC, nSavedDC);
+        return ok;
+    }
+    int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
+
+    // Selected objects
+    HGDIOBJ SelectObject(HGDIOBJ hObject) { return SelectBoth(hObject); }
+    CGdiObject* SelectObject(CGdiObject* p) { return CGdiObject::FromHandle(SelectBoth(Handle(p))); }
+    CPen* SelectObject(CPen* p) { return static_cast<CPen*>(SelectObject(static_cast<CGdiObject*>(p))); }
+    CBrush* SelectObject(CBrush* p) { return static_cast<CBrush*>(SelectObject(static_cast<CGdiObject*>(p))); }
+    virtual CFont* SelectObject(CFont* p) { return static_cast<CFont*>(SelectObject(static_cast<CGdiObject*>(p))); }
+    CBitmap* SelectObject(CBitmap* p) { return static_cast<CBitmap*>(SelectObject(static_cast<CGdiObject*>(p))); }
+    virtual CGdiObject* SelectStockObject(int nIndex) { return CGdiObject::FromHandle(SelectBoth(::GetStockObject(nIndex))); }
+    CPen* GetCurrentPen() const { return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hDC, OBJ_PEN))); }
+    CBrush* GetCurrentBrush() const { return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH))); }
+    CFont* GetCurrentFont() const { return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hDC, OBJ_FONT))); }
+    CBitmap* GetCurrentBitmap() const { return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP))); }
+
+    // Colours, modes and alignment
+    virtual COLORREF SetTextColor(COLORREF c) { return SetBoth(::SetTextColor, c, COLORREF(CLR_INVALID)); }
+    virtual COLORREF SetBkColor(COLORREF c) { return SetBoth(::SetBkColor, c, COLORREF(CLR_INVALID)); }
+    int SetBkMode(int nBkMode) { return SetBoth(::SetBkMode, nBkMode, 0); }
+    UINT SetTextAlign(UINT nFlags) { return SetBoth(::SetTextAlign, nFlags, UINT(GDI_ERROR)); }
+    int SetROP2(int nDrawMode) { return SetBoth(::SetROP2, nDrawMode, 0); }
+    int SetStretchBltMode(int nMode) { return SetBoth(::SetStretchBltMode, nMode, 0); }
+    COLORREF GetTextColor() const { return ::GetTextColor(m_hAttribDC); }
+    COLORREF GetBkColor() const { return ::GetBkColor(m_hAttribDC); }
+    int GetBkMode() const { return ::GetBkMode(m_hAttribDC); }
+    UINT GetTextAlign() const { return ::GetTextAlign(m_hAttribDC); }
+    COLORREF GetNearestColor(COLORREF c) const { return ::GetNearestColor(m_hAttribDC, c); }
+
+    // Text metrics: attribute handle, or output handle for the Output forms
+    CSize GetTextExtent(LPCSTR lpszString, int nCount) const { return Extent(m_hAttribDC, lpszString, nCount); }
+    CSize GetTextExtent(const CString& str) const { return Extent(m_hAttribDC, str, str.GetLength()); }
+    CSize GetOutputTextExtent(LPCSTR lpszString, int nCount) const { return Extent(m_hDC, lpszString, nCount); }
+    CSize GetOutputTextExtent(const CString& str) const { return Extent(m_hDC, str, str.GetLength()); }
+    BOOL GetTextMetrics(LPTEXTMETRICA lpMetrics) const { return ::GetTextMetricsA(m_hAttribDC, lpMetrics); }
+    BOOL GetOutputTextMetrics(LPTEXTMETRICA lpMetrics) const { return ::GetTextMetricsA(m_hDC, lpMetrics); }
+
+    // Output
+    COLORREF SetPixel(int x, int y, COLORREF c) { return ::SetPixel(m_hDC, x, y, c); }
+    COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
+    BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop)
+    {
+        return ::BitBlt(m_hDC, x, y, nWidth, nHeight, pSrcDC ? pSrcDC->m_hDC : nullptr, xSrc, ySrc, dwRop);
+    }
+    BOOL StretchBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc,
+                    int nSrcWidth, int nSrcHeight, DWORD dwRop)
+    {
+        return ::StretchBlt(m_hDC, x, y, nWidth, nHeight, pSrcDC ? pSrcDC->m_hDC : nullptr, xSrc, ySrc,
+                            nSrcWidth, nSrcHeight, dwRop);
+    }
+    BOOL PatBlt(int x, int y, int nWidth, int nHeight, DWORD dwRop) { return ::PatBlt(m_hDC, x, y, nWidth, nHeight, dwRop); }
+    // Leaves the background colour set to the fill colour, as MFC does.
+    void FillSolidRect(LPCRECT lpRect, COLORREF clr)
+    {
+        ::SetBkColor(m_hDC, clr);
+        ::ExtTextOutA(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
+    }
+    void FillSolidRect(int x, int y, int cx, int cy, COLORREF clr)
+    {
+        CRect rect(x, y, x + cx, y + cy);
+        FillSolidRect(&rect, clr);
+    }
+    void FillRect(LPCRECT lpRect, CBrush* pBrush) { ::FillRect(m_hDC, lpRect, *pBrush); }
+    void FrameRect(LPCRECT lpRect, CBrush* pBrush) { ::FrameRect(m_hDC, lpRect, *pBrush); }
+    BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
+    BOOL Rectangle(LPCRECT r) { return ::Rectangle(m_hDC, r->left, r->top, r->right, r->bottom); }
+    BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
+    BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
+    CPoint MoveTo(int x, int y)
+    {
+        POINT old = {0, 0};
+        if (m_hDC != m_hAttribDC) ::MoveToEx(m_hDC, x, y, &old);
+        if (m_hAttribDC != nullptr) ::MoveToEx(m_hAttribDC, x, y, &old);
+        return CPoint(old);
+    }
+    CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
+    BOOL LineTo(int x, int y)
+    {
+        if (m_hAttribDC != nullptr && m_hAttribDC != m_hDC) ::MoveToEx(m_hAttribDC, x, y, nullptr);
+        return ::LineTo(m_hDC, x, y);
+    }
+    BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
+    virtual BOOL TextOut(int x, int y, LPCSTR lpszString, int nCount) { return ::TextOutA(m_hDC, x, y, lpszString, nCount); }
+    BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
+    virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCSTR lpszString, UINT nCount, LPINT lpDxWidths)
+    {
+        return ::ExtTextOutA(m_hDC, x, y, nOptions, lpRect, lpszString, nCount, lpDxWidths);
+    }
+    virtual int DrawText(LPCSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
+    {
+        return ::DrawTextA(m_hDC, lpszString, nCount, lpRect, nFormat);
+    }
+    int DrawText(const CString& str, LPRECT lpRect, UINT nFormat) { return DrawText(str, str.GetLength(), lpRect, nFormat); }
+    int IntersectClipRect(int x1, int y1, int x2, int y2)
+    {
+        return ::IntersectClipRect(m_hDC, x1, y1, x2, y2);
+    }
+    int IntersectClipRect(LPCRECT r) { return IntersectClipRect(r->left, r->top, r->right, r->bottom); }
+
+private:
+    static HGDIOBJ Handle(const CGdiObject* p) { return p ? p->m_hObject : nullptr; }
+    HGDIOBJ SelectBoth(HGDIOBJ h)
+    {
+        HGDIOBJ old = nullptr;
+        if (m_hDC != m_hAttribDC) old = ::SelectObject(m_hDC, h);
+        if (m_hAttribDC != nullptr) old = ::SelectObject(m_hAttribDC, h);
+        return old;
+    }
+    template <class Fn, class T> T SetBoth(Fn fn, T value, T failed)
+    {
+        T old = failed;
+        if (m_hDC != nullptr && m_hDC != m_hAttribDC) old = fn(m_hDC, value);
+        if (m_hAttribDC != nullptr) old = fn(m_hAttribDC, value);
+        return old;
+    }
+    static CSize Extent(HDC hdc, LPCSTR s, int n)
+    {
+        SIZE size = {0, 0};
+        ::GetTextExtentPoint32A(hdc, s, n, &size);
+        return CSize(size);
+    }
+};
+
+inline BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
+{
+    return Attach(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));
+}

@@ -1,0 +1,117 @@
+// MFC's GDI object wrappers: CGdiObject, CPen, CBrush, CFont, CBitmap.
+// Objects own their handle and delete it on destruction; FromHandle answers the object that
+// owns a handle, or a temporary wrapper that never deletes it, as MFC's handle map does.
+#pragma once
+#include "afxexcept.h"
+#include <map>
+#include <memory>
+
+class CDC;
+
+class CGdiObject {
+public:
+    HGDIOBJ m_hObject = nullptr;
+
+    CGdiObject() = default;
+    CGdiObject(const CGdiObject&) = delete;
+    CGdiObject& operator=(const CGdiObject&) = delete;
+    virtual ~CGdiObject() { DeleteObject(); }
+
+    operator HGDIOBJ() const { return m_hObject; }
+    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+
+    BOOL Attach(HGDIOBJ hObject)
+    {
+        if (hObject == nullptr) return FALSE;
+        m_hObject = hObject;
+        Permanent()[hObject] = this;
+        return TRUE;
+    }
+    HGDIOBJ Detach()
+    {
+        HGDIOBJ h = m_hObject;
+        if (h != nullptr) Permanent().erase(h);
+        m_hObject = nullptr;
+        return h;
+    }
+    BOOL DeleteObject() { return m_hObject ? ::DeleteObject(Detach()) : FALSE; }
+    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObjectA(m_hObject, nCount, lpObject); }
+    UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
+    BOOL CreateStockObject(int nIndex) { return (m_hObject = ::GetStockObject(nIndex)) != nullptr; }
+
+    static CGdiObject* FromHandle(HGDIOBJ hObject)
+    {
+        if (hObject == nullptr) return nullptr;
+        auto found = Permanent().find(hObject);
+        if (found != Permanent().end()) return found->second;
+        auto& temp = Temporary()[hObject];
+        if (!temp) {
+            temp.reset(new CGdiObject);
+            temp->m_hObject = hObject;  // not attached: a temporary never deletes the handle
+        }
+        return temp.get();
+    }
+
+private:
+    struct ReleaseTemporary {
+        void operator()(CGdiObject* p) const { p->m_hObject = nullptr; delete p; }
+    };
+    static std::map<HGDIOBJ, CGdiObject*>& Permanent()
+    {
+        static std::map<HGDIOBJ, CGdiObject*> map;
+        return map;
+    }
+    static std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>>& Temporary()
+    {
+        static std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>> map;
+        return map;
+    }
+};
+
+class CPen : public CGdiObject {
+public:
+    CPen() = default;
+    CPen(int nPenStyle, int nWidth, COLORREF crColor)
+    {
+        if (!CreatePen(nPenStyle, nWidth, crColor)) AfxThrowResourceException();
+    }
+    BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
+    {
+        return Attach(::CreatePen(nPenStyle, nWidth, crColor));
+    }
+    operator HPEN() const { return static_cast<HPEN>(m_hObject); }
+    static CPen* FromHandle(HPEN hPen) { return static_cast<CPen*>(CGdiObject::FromHandle(hPen)); }
+};
+
+class CBitmap : public CGdiObject {
+public:
+    BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits)
+    {
+        return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
+    }
+    inline BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
+    int GetBitmap(BITMAP* pBitMap) const { return GetObject(sizeof(BITMAP), pBitMap); }
+    operator HBITMAP() const { return static_cast<HBITMAP>(m_hObject); }
+    static CBitmap* FromHandle(HBITMAP hBitmap) { return static_cast<CBitmap*>(CGdiObject::FromHandle(hBitmap)); }
+};
+
+class CFont : public CGdiObject {
+public:
+    BOOL CreateFontIndirect(const LOGFONTA* lpLogFont) { return Attach(::CreateFontIndirectA(lpLogFont)); }
+    int GetLogFont(LOGFONTA* pLogFont) const { return GetObject(sizeof(LOGFONTA), pLogFont); }
+    operator HFONT() const { return static_cast<HFONT>(m_hObject); }
+    static CFont* FromHandle(HFONT hFont) { return static_cast<CFont*>(CGdiObject::FromHandle(hFont)); }
+};
+
+class CBrush : public CGdiObject {
+public:
+    CBrush() = default;
+    explicit CBrush(COLORREF crColor)
+    {
+        if (!CreateSolidBrush(crColor)) AfxThrowResourceException();
+    }
+    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
+    BOOL CreatePatternBrush(CBitmap* pBitmap) { return Attach(::CreatePatternBrush(*pBitmap)); }
+    operator HBRUSH() const { return static_cast<HBRUSH>(m_hObject); }
+    static CBrush* FromHandle(HBRUSH hBrush) { return static_cast<CBrush*>(CGdiObject::FromHandle(hBrush)); }
+};

@@ -1,0 +1,22 @@
+// Files for tests: a scratch folder per process, and whole-file reads and writes.
+#pragma once
+#include <string>
+
+// A fresh folder under the temporary directory, removed with its files when destroyed.
+class ScratchDir {
+public:
+    ScratchDir();
+    ~ScratchDir();
+    ScratchDir(const ScratchDir&) = delete;
+    ScratchDir& operator=(const ScratchDir&) = delete;
+    // The full path of name inside the folder (name may contain backslashes for subfolders).
+    std::string Path(const std::string& name) const { return m_dir + "\\" + name; }
+    const std::string& dir() const { return m_dir; }
+
+private:
+    std::string m_dir;
+};
+
+void WriteFileBytes(const std::string& path, const std::string& bytes);
+std::string ReadFileBytes(const std::string& path);
+bool FileExists(const std::string& path);
