@@ -17,6 +17,9 @@ private:
     std::string m_dir;
 };
 
+// The running executable's folder, ending in a backslash.
+std::string ExeDir();
+
 void WriteFileBytes(const std::string& path, const std::string& bytes);
 std::string ReadFileBytes(const std::string& path);
 bool FileExists(const std::string& path);
