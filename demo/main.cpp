@@ -1,16 +1,9 @@
 // kiv_demo: a host that loads kiv_skin the way the terminal's plug-ins do and reports what the
-// library makes of the sample schemes. Argument: the schemes folder.
+// library makes of the sample schemes installed beside it (cfg\kiv_skin and skin\).
 #include "demo/style_report.h"
-#include <cstdio>
 
-int main(int argc, char** argv)
+int main()
 {
-    if (argc < 2) {
-        std::fprintf(stderr, "usage: kiv_demo SCHEMES_FOLDER\n");
-        return 2;
-    }
-    CString schemes = argv[1];
     ReportDpiSettings();
-    bool loaded = ReportColorTable(schemes + "\\dark\\colorfont.xml");
-    return loaded ? 0 : 1;
+    return ReportSchemes() ? 0 : 1;
 }

@@ -3,5 +3,6 @@
 #include <afxwin.h>
 
 void ReportDpiSettings();
-// Loads a scheme's colour/font file and prints its colour table; false if it does not load.
-bool ReportColorTable(const CString& colorFontPath);
+// Initialises the style manager from the host's configuration and switches through every
+// scheme of the catalogue, printing what each one loaded; false if a scheme does not load.
+bool ReportSchemes();

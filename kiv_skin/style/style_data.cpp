@@ -1,0 +1,26 @@
+#include "kiv_skin/style/style_data.h"
+
+namespace kiv_skin {
+
+int LoadStyleData(StyleData& data, const StyleEntry& entry)
+{
+    if (!LoadColors(data.colors, entry.colorfont)) return 0;
+    if (!LoadFonts(entry.colorfont, data.fonts)) return 0;
+    data.fonts.path = entry.colorfont;
+    if (!data.images.loadImageConfig(entry.img)) return 0;
+    data.name = entry.name;
+    return 1;
+}
+
+// A style missing from the catalogue leaves the path empty, so writing then fails.
+int SaveStyleData(StyleData& data, const int& saveColors, const int& saveFonts)
+{
+    StyleEntry entry;
+    CString name = data.name;
+    StyleCatalogue::Instance()->FindStyle(name, entry);
+    if (saveColors && !SaveColors(data.colors, entry.colorfont)) return 0;
+    if (saveFonts) return SaveFonts(data.fonts, entry.colorfont) ? 1 : 0;
+    return 1;
+}
+
+}  // namespace kiv_skin
