@@ -11,6 +11,6 @@ int main(int argc, char** argv)
     }
     CString schemes = argv[1];
     ReportDpiSettings();
-    bool loaded = ReportColorTable(schemes + "\\dark\\colorfont.xml");
+    bool loaded = ReportColorTable(schemes + "\\cfg\\kiv_skin\\dark\\colorfont.xml");
     return loaded ? 0 : 1;
 }
