@@ -72,7 +72,8 @@ def _news(l, p):
 
 
 def _lock(l, p):
-    _solid(l, union(arc(C, 8, 5, 3, 180, 360), box(4, 8, 6, 10), box(13, 8, 15, 10)), GREY)
+    l.paint(union(arc(C, 8, 5, 3, 180, 360), box(4, 8, 6, 10), box(13, 8, 15, 10)),
+            darken(GREY, 0.2))
     _solid(l, box(3, 9, 16, 18), GOLD)
     l.paint(union(disc(C, 12.5, 1.6), box(9, 13, 10, 16)), INK)
 
