@@ -1,0 +1,1 @@
+"""Drawing and file-writing helpers for the scheme bitmap generator."""
