@@ -31,7 +31,7 @@ LOGFONTA DefaultDescription()
     return lf;
 }
 
-// One font element as read: false when its face name does not fit the 32-byte field.
+// One font element as read; faceFits is false when the face name overflows the 32-byte field.
 struct FontDefinition {
     LOGFONTA lf = DefaultDescription();
     CString name;

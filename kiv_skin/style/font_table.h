@@ -28,7 +28,8 @@ struct KIV_SKIN_API FontTable {
 typedef std::vector<CString> FontNameList;
 
 // Replaces the table's fonts by those of the file's "fonts" section. False (old fonts kept) when
-// the file cannot be loaded; false (no fonts left) when it has no root or no "fonts".
+// the file cannot be loaded; false (no fonts left) when it has no root or no "fonts". Elements
+// without a key, or with a face name longer than 31 bytes, are left out.
 KIV_SKIN_API bool LoadFonts(const CString& path, FontTable& table);
 // The font of name, else that of "DEFAULT", else null.
 KIV_SKIN_API const CFont* LookupFont(const FontTable& table, const CString& name);

@@ -6,6 +6,7 @@
 #include "support/test_files.h"
 #include <gtest/gtest.h>
 #include <tinyxml.h>
+#include <cstring>
 
 using namespace kiv_skin;
 
