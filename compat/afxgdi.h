@@ -56,15 +56,17 @@ private:
     struct ReleaseTemporary {
         void operator()(CGdiObject* p) const { p->m_hObject = nullptr; delete p; }
     };
+    // The maps outlive every static object: GDI objects owned by statics are deleted at exit,
+    // after function-local statics created later than them are gone.
     static std::map<HGDIOBJ, CGdiObject*>& Permanent()
     {
-        static std::map<HGDIOBJ, CGdiObject*> map;
-        return map;
+        static auto* map = new std::map<HGDIOBJ, CGdiObject*>;
+        return *map;
     }
     static std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>>& Temporary()
     {
-        static std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>> map;
-        return map;
+        static auto* map = new std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>>;
+        return *map;
     }
 };
 

@@ -3,7 +3,7 @@
 // a process-wide singleton whose state carries from one step to the next.
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/style/style_catalogue.h"
-#include "support/bmp_writer.h"
+#include "support/bitmap_files.h"
 #include "support/test_files.h"
 #include <gtest/gtest.h>
 
@@ -35,7 +35,7 @@ std::string Style(const char* name, const char* colorfont, const char* img)
 
 void WriteSchemes()
 {
-    WriteBmp24(ExeDir() + "broken_skin\\frame.bmp", 4, 4, RGB(10, 20, 30));
+    WriteFileBytes(ExeDir() + "broken_skin\\frame.bmp", BmpBytes(SolidGrid(4, 4, RGB(10, 20, 30))));
     WriteFileBytes(CfgDir() + "good.xml", ColorFont("0x00112233", "DEFAULT"));
     WriteFileBytes(CfgDir() + "other.xml", ColorFont("0x00445566", "SMALL"));
     WriteFileBytes(CfgDir() + "bad.xml", "<globals><colors><color name=\"X\"");

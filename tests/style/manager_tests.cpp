@@ -33,9 +33,12 @@ BITMAP BitmapInfo(const CBitmap* bitmap)
 
 }  // namespace
 
+// A name is known once the catalogue is read (the style dialog reads it too).
 TEST(SampleSchemes, LoadStyleBeforeInitChangesNothing)
 {
     KivStyleMgr* mgr = KivStyleMgr::GetInstance();
+    EXPECT_EQ(0, mgr->LoadStyle("light"));
+    ASSERT_EQ(1, StyleCatalogue::Instance()->LoadCatalogue());
     EXPECT_EQ(1, mgr->LoadStyle("light"));
     EXPECT_STREQ("", mgr->GetCurrentStyle());
     EXPECT_EQ(0xFFFFFFFFu, mgr->GetColor("BACKGROUND"));

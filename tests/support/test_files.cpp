@@ -4,13 +4,23 @@
 #include <fstream>
 #include <sstream>
 
-ScratchDir::ScratchDir()
+namespace {
+
+std::string TempDirectory()
 {
-    static int counter = 0;
     char temp[MAX_PATH];
     GetTempPathA(MAX_PATH, temp);
-    m_dir = std::string(temp) + "kiv_test_" + std::to_string(GetCurrentProcessId()) + "_" +
-            std::to_string(++counter);
+    return temp;
+}
+
+}  // namespace
+
+ScratchDir::ScratchDir() : ScratchDir(TempDirectory()) {}
+
+ScratchDir::ScratchDir(const std::string& parent)
+{
+    static int counter = 0;
+    m_dir = parent + "kiv_test_" + std::to_string(GetCurrentProcessId()) + "_" + std::to_string(++counter);
     std::filesystem::remove_all(m_dir);
     std::filesystem::create_directories(m_dir);
 }

@@ -2,10 +2,13 @@
 #pragma once
 #include <string>
 
-// A fresh folder under the temporary directory, removed with its files when destroyed.
+// A fresh folder, by default under the temporary directory, removed with its files when
+// destroyed.
 class ScratchDir {
 public:
     ScratchDir();
+    // The same under the folder parent (which ends with a backslash).
+    explicit ScratchDir(const std::string& parent);
     ~ScratchDir();
     ScratchDir(const ScratchDir&) = delete;
     ScratchDir& operator=(const ScratchDir&) = delete;

@@ -1,0 +1,217 @@
+#include "kiv_skin/display/image_manager.h"
+#include "kiv_skin/module.h"
+#include <cctype>
+#include <cstdlib>
+#include <cstring>
+#include <tinyxml.h>
+
+// One named image. A strip's own entry owns the image list; its cells share it and own a bitmap
+// each; a stand-alone image owns its bitmap.
+struct ImageEntry {
+    CString name;
+    CString file;
+    CImageList* imageList;
+    CBitmap* bitmap;
+    int index;  // kStripIndex, the cell's position in its strip, or kStandAloneIndex
+    COLORREF transparentColor;
+};
+
+namespace {
+
+const int kStripIndex = -1;
+const int kStandAloneIndex = -3;
+// The colour at which ImageList_AddMasked cuts a strip, and the ground a cell is drawn on.
+const COLORREF kStripMaskColor = 0x000000FF;
+const COLORREF kCellGround = 0x00FFFFFF;
+
+HBITMAP LoadBitmapFile(const CString& file)
+{
+    return static_cast<HBITMAP>(
+        ::LoadImageA(kiv_skin::ModuleHandle(), file, IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
+}
+
+// The executable's folder with exactly one trailing backslash.
+CString ExeDirectory()
+{
+    char buffer[MAX_PATH] = "";
+    ::GetModuleFileNameA(nullptr, buffer, MAX_PATH);
+    CString dir(buffer);
+    dir = dir.Left(dir.ReverseFind('\\') + 1);
+    dir.TrimRight('\\');
+    return dir + '\\';
+}
+
+// Cell position of a strip as a bitmap of its own: drawn on white into a screen-compatible
+// bitmap.
+CBitmap* CutCell(HIMAGELIST list, int position, int width, int height)
+{
+    CClientDC screen(nullptr);
+    CBitmap* cell = new CBitmap;
+    cell->CreateCompatibleBitmap(&screen, width, height);
+    CDC memory;
+    memory.CreateCompatibleDC(nullptr);
+    CBitmap* previous = memory.SelectObject(cell);
+    memory.FillSolidRect(0, 0, width, height, kCellGround);
+    ::ImageList_Draw(list, position, memory, 0, 0, ILD_NORMAL);
+    memory.SelectObject(previous);
+    memory.DeleteDC();
+    return cell;
+}
+
+}  // namespace
+
+namespace kiv_skin {
+
+COLORREF ParseMaskColor(const char* text)
+{
+    if (!text) return 0;
+    unsigned int numbers[3] = {0, 0, 0};
+    for (unsigned int& n : numbers) {
+        while (*text && !std::isdigit(static_cast<unsigned char>(*text))) ++text;
+        if (!*text) break;
+        n = static_cast<unsigned int>(std::atoi(text));
+        while (std::isdigit(static_cast<unsigned char>(*text))) ++text;
+    }
+    return numbers[0] | (numbers[1] << 8) | (numbers[2] << 16);
+}
+
+}  // namespace kiv_skin
+
+ImageManager::ImageManager() = default;
+
+ImageManager::~ImageManager() { _initData(); }
+
+int ImageManager::loadImageConfig(const CString& path)
+{
+    if (path == m_strConfigPath) return 1;
+    if (!m_strConfigPath.IsEmpty()) _initData();
+    // A failed switch keeps the previous path although its entries are gone.
+    TiXmlDocument doc;
+    if (!doc.LoadFile(path)) return 0;
+    m_strConfigPath = path;
+    m_strBaseDir = ExeDirectory();
+    TiXmlElement* root = doc.FirstChildElement();
+    if (root) _getNode(root);
+    return 1;
+}
+
+const CBitmap* ImageManager::getBitmap(const CString& key) const
+{
+    const ImageEntry* entry = _findEntry(key);
+    return entry ? entry->bitmap : nullptr;
+}
+
+const CImageList* ImageManager::getImageList(const CString& key) const
+{
+    const ImageEntry* entry = _findEntry(key);
+    return entry && entry->index == kStripIndex ? entry->imageList : nullptr;
+}
+
+DWORD ImageManager::getTransparentColor(const CString& key) const
+{
+    const ImageEntry* entry = _findEntry(key);
+    return entry ? entry->transparentColor : 0;
+}
+
+void ImageManager::_initData()
+{
+    for (auto& item : m_mapImages) {
+        ImageEntry* entry = item.second;
+        if (entry->index == kStripIndex) delete entry->imageList;
+        delete entry->bitmap;
+        delete entry;
+    }
+    m_mapImages.clear();
+}
+
+void ImageManager::_getNode(TiXmlElement* root)
+{
+    for (TiXmlElement* e = root->FirstChildElement(); e; e = e->NextSiblingElement()) {
+        CString file = m_strBaseDir + e->Attribute("file");
+        if (std::strcmp(e->Value(), "image") == 0) {
+            _addImageToMap(file, e);
+        } else if (std::strcmp(e->Value(), "imagelist") == 0) {
+            int width = 0, height = 0;
+            _getPosSize(e, &width, &height);
+            if (width < 1 || height < 1) continue;
+            HBITMAP probe = LoadBitmapFile(file);
+            if (!probe) continue;
+            ::DeleteObject(probe);
+            _addListChildrenToMap(file, GetColorFromString(e->Attribute("mask")), e, width, height);
+        }
+    }
+}
+
+void ImageManager::_addImageToMap(const CString& file, TiXmlElement* element)
+{
+    HBITMAP handle = LoadBitmapFile(file);
+    if (!handle) return;
+    CBitmap* bitmap = new CBitmap;
+    bitmap->Attach(handle);
+    ImageEntry* entry = new ImageEntry{element->Attribute("name"), file, nullptr, bitmap,
+                                       kStandAloneIndex, GetColorFromString(element->Attribute("mask"))};
+    if (!_insertEntry(entry)) {
+        delete bitmap;
+        delete entry;
+    }
+}
+
+int ImageManager::_addListChildrenToMap(const CString& file, DWORD mask, TiXmlElement* element,
+                                        int width, int height)
+{
+    CImageList* list = new CImageList;
+    _getImage(file, element, list);
+    ImageEntry* strip = new ImageEntry{element->Attribute("name"), file, list, nullptr, kStripIndex, mask};
+    if (!_insertEntry(strip)) {
+        delete list;
+        delete strip;
+        return 0;
+    }
+    int position = 0;
+    for (TiXmlElement* child = element->FirstChildElement(); child; child = child->NextSiblingElement(), ++position) {
+        if (std::strcmp(child->Value(), "image") != 0) continue;
+        IMAGEINFO info = {};
+        ::ImageList_GetImageInfo(*list, position, &info);
+        CBitmap* cell = CutCell(*list, position, width, height);
+        CString cellMask = child->Attribute("mask");
+        ImageEntry* entry = new ImageEntry{child->Attribute("name"), file, list, cell, position,
+                                           cellMask.IsEmpty() ? mask : GetColorFromString(cellMask)};
+        if (!_insertEntry(entry)) {
+            delete cell;
+            delete entry;
+        }
+        // The list's own bitmaps stay selected into its contexts, so this does not free them.
+        ::DeleteObject(info.hbmImage);
+        ::DeleteObject(info.hbmMask);
+    }
+    return 1;
+}
+
+void ImageManager::_getImage(const CString& file, TiXmlElement* element, CImageList* list)
+{
+    int width = 0, height = 0;
+    _getPosSize(element, &width, &height);
+    HBITMAP strip = LoadBitmapFile(file);
+    list->Create(width, height, ILC_COLOR, 4, 4);
+    ::ImageList_AddMasked(*list, strip, kStripMaskColor);
+    ::DeleteObject(strip);
+}
+
+void ImageManager::_getPosSize(TiXmlElement* element, int* width, int* height)
+{
+    element->Attribute("width", width);
+    element->Attribute("height", height);
+}
+
+bool ImageManager::_insertEntry(ImageEntry* entry)
+{
+    return m_mapImages.emplace(entry->name, entry).second;
+}
+
+const ImageEntry* ImageManager::_findEntry(const CString& key) const
+{
+    auto found = m_mapImages.find(key);
+    return found == m_mapImages.end() ? nullptr : found->second;
+}
+
+DWORD ImageManager::GetColorFromString(const CString& text) { return kiv_skin::ParseMaskColor(text); }
