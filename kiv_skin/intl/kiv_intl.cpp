@@ -42,7 +42,7 @@ int LoadCatalogue(const std::string& directory, int lang, const char* package)
     try {
         if (ReadWholeFile(path, bytes)) mox::Load(bytes.data(), bytes.size(), g_catalogue);
     } catch (const std::exception&) {
-        // A file too large for memory loads as far as it went.
+        // Running out of memory ends the load quietly; records already stored stay.
     }
     return language;
 }

@@ -73,20 +73,16 @@ check grep -qE "features.po:19: warning: plural message \"%d day\"" features.err
 
 # Bad input.
 check error unrepresentable u.mox 'unrepresentable.po:6: .*cannot be represented in code page 936' compile unrepresentable.po -o u.mox
-check error not_latin en_bad.mox 'en_bad.po:3: .*cannot be represented' \
-  compile en_bad.po -o en_bad.mox --lang en < /dev/null
-printf 'msgid "a"\nmsgstr "b\n' > unterminated.po
-check error unterminated out.mox 'unterminated.po:2: .*double quotes' compile unterminated.po -o out.mox --lang en
-printf 'msgid "a"\nmsgstr "\\q"\n' > escape.po
-check error escape out.mox 'escape.po:2: invalid escape sequence' compile escape.po -o out.mox --lang en
-printf '\nmsgstr "b"\n' > orphan.po
-check error orphan out.mox 'orphan.po:2: msgstr without a msgid' compile orphan.po -o out.mox --lang en
-printf 'msgid "a"\nmsgstr "b"\n\nmsgid "a"\nmsgstr "c"\n' > duplicate.po
-check error duplicate out.mox 'duplicate.po:4: duplicate message "a" \(first defined on line 1\)' compile duplicate.po -o out.mox --lang en
-printf 'msgid "a"\nmsgtext "b"\n' > keyword.po
-check error keyword out.mox 'keyword.po:2: unknown keyword msgtext' compile keyword.po -o out.mox --lang en
-printf 'msgid "a"\n' > nostr.po
-check error nostr out.mox 'nostr.po:.*has no msgstr' compile nostr.po -o out.mox --lang en
+check error not_latin en_bad.mox 'en_bad.po:3: .*cannot be represented' compile en_bad.po -o en_bad.mox --lang en
+# bad_po NAME CONTENT PATTERN: a .po with CONTENT fails to compile with a message matching PATTERN.
+bad_po() { printf "$2" > "$1.po"; error "$1" out.mox "$3" compile "$1.po" -o out.mox --lang en; }
+check bad_po unterminated 'msgid "a"\nmsgstr "b\n' 'unterminated.po:2: .*double quotes'
+check bad_po escape 'msgid "a"\nmsgstr "\\q"\n' 'escape.po:2: invalid escape sequence'
+check bad_po orphan '\nmsgstr "b"\n' 'orphan.po:2: msgstr without a msgid'
+check bad_po duplicate 'msgid "a"\nmsgstr "b"\n\nmsgid "a"\nmsgstr "c"\n' \
+  'duplicate.po:4: duplicate message "a" \(first defined on line 1\)'
+check bad_po keyword 'msgid "a"\nmsgtext "b"\n' 'keyword.po:2: unknown keyword msgtext'
+check bad_po nostr 'msgid "a"\n' 'nostr.po:1: msgid "a" has no msgstr'
 head -c 30 real_zh_CN.mo > cut.mo
 check error cut_mo out.mox 'cut.mo: .*past the end' compile cut.mo -o out.mox --lang zh_CN
 printf 'not a mo file at all....' > bad.mo
