@@ -2,14 +2,12 @@
 // catalogue against reading the same file into memory, and a million look-ups through
 // KivIntl::GetText against the same look-ups in a std::unordered_map. Each figure is the median
 // of repeated runs; the ratios are what to compare between machines.
+#include "bench/bench_timer.h"
 #include "kiv_skin/intl/kiv_intl.h"
 #include "kiv_skin/intl/mox_format.h"
 #include <windows.h>
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <fstream>
-#include <functional>
 #include <random>
 #include <string>
 #include <unordered_map>
@@ -21,18 +19,6 @@ namespace {
 
 const int kRecords = 10000;
 const int kLookups = 1000000;
-
-double MedianMilliseconds(int runs, const std::function<void()>& work)
-{
-    std::vector<double> times;
-    for (int i = 0; i < runs; ++i) {
-        auto start = std::chrono::steady_clock::now();
-        work();
-        times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 std::string ExeDir()
 {
@@ -70,8 +56,10 @@ int main()
     std::ofstream(path, std::ios::binary).write(file.data(), std::streamsize(file.size()));
 
     size_t sink = 0;
-    double read = MedianMilliseconds(51, [&] { sink += ReadWhole(path).size(); });
-    double load = MedianMilliseconds(51, [&] { KivIntl::Instance().PreparePackage(KivIntl::LANGUAGE_EN, package.c_str()); });
+    double read = MedianMicroseconds(51, 1, [&](int) { sink += ReadWhole(path).size(); });
+    double load = MedianMicroseconds(51, 1, [&](int) {
+        KivIntl::Instance().PreparePackage(KivIntl::LANGUAGE_EN, package.c_str());
+    });
     DeleteFileA(path.c_str());
 
     // The same key sequence for both: nine hits in ten, the rest misses.
@@ -82,23 +70,21 @@ int main()
     std::unordered_map<std::string, std::string> baseline;
     for (int i = 0; i < kRecords; ++i) baseline[keys[i]] = values[i];
 
-    double lookups = MedianMilliseconds(11, [&] {
-        for (const std::string& key : sequence) sink += size_t(*KivIntl::Instance().GetText(key.c_str()));
+    double lookups = MedianMicroseconds(11, kLookups, [&](int i) {
+        sink += size_t(*KivIntl::Instance().GetText(sequence[i].c_str()));
     });
-    double hashed = MedianMilliseconds(11, [&] {
-        for (const std::string& key : sequence) {
-            auto found = baseline.find(key.c_str());
-            sink += size_t(found == baseline.end() ? key[0] : found->second[0]);
-        }
+    double hashed = MedianMicroseconds(11, kLookups, [&](int i) {
+        auto found = baseline.find(sequence[i].c_str());
+        sink += size_t(found == baseline.end() ? sequence[i][0] : found->second[0]);
     });
 
     std::printf("catalogue of %d records, %zu bytes\n", kRecords, file.size());
-    std::printf("load with PreparePackage   %8.3f ms (median of 51)\n", load);
-    std::printf("read the file into memory  %8.3f ms\n", read);
-    std::printf("  ratio load / read        %8.1f\n", load / read);
-    std::printf("%d look-ups, GetText      %8.3f ms (median of 11)\n", kLookups, lookups);
-    std::printf("same in std::unordered_map %8.3f ms\n", hashed);
-    std::printf("  ratio GetText / hash map %8.2f\n", lookups / hashed);
+    std::printf("load with PreparePackage   %10.1f us (median of 51)\n", load);
+    std::printf("read the file into memory  %10.1f us\n", read);
+    std::printf("  ratio load / read        %10.1f\n", load / read);
+    std::printf("GetText, per look-up       %10.4f us (median of 11 runs of %d)\n", lookups, kLookups);
+    std::printf("std::unordered_map         %10.4f us\n", hashed);
+    std::printf("  ratio GetText / hash map %10.2f\n", lookups / hashed);
     std::printf("(checksum %zu)\n", sink);
     return 0;
 }
