@@ -1,0 +1,56 @@
+// The ".mox" catalogue format: the magic "mox1.0", then records of a little-endian signed 32-bit
+// key length (1 or more), the key bytes, a translation length (0 or more) and the translation
+// bytes, up to the end of the file. Pure byte handling, shared by the library and tools/moxc.
+#pragma once
+#include <cstddef>
+#include <functional>
+#include <map>
+#include <string>
+
+namespace kiv_skin {
+namespace mox {
+
+const char kMagic[] = "mox1.0";
+const size_t kMagicSize = 6;
+// A file shorter than the magic and one length field holds nothing.
+const size_t kMinFileSize = 10;
+
+// Why a walk ended. Only End means every byte belonged to a well-formed record.
+enum class Stop {
+    End,               // no bytes left after the last record
+    TooShort,          // fewer than 10 bytes in all
+    BadMagic,          // the first six bytes are not "mox1.0"
+    KeyLengthCut,      // 1 to 3 bytes left where a key length belongs
+    BadKeyLength,      // key length below 1 or beyond the end of the file
+    ValueLengthCut,    // fewer than 4 bytes left after a key
+    BadValueLength,    // translation length negative or beyond the end of the file
+};
+
+struct WalkResult {
+    Stop stop = Stop::End;
+    size_t offset = 0;   // where the walk stopped: the start of the field it could not use
+    size_t records = 0;  // well-formed records visited before that
+};
+
+// Called for each well-formed record with its raw bytes (zero bytes included).
+typedef std::function<void(const char* key, size_t keySize, const char* value, size_t valueSize)>
+    RecordFn;
+
+// Walks a whole file image; records before a malformed one have been visited when it returns.
+WalkResult Walk(const char* data, size_t size, const RecordFn& onRecord);
+
+typedef std::map<std::string, std::string> Catalogue;
+
+// Walks into a catalogue: key and translation cut at their first zero byte, the last record of
+// a key winning. Existing entries are kept unless a record replaces them.
+WalkResult Load(const char* data, size_t size, Catalogue& catalogue);
+
+// Appends one record; false (and nothing appended) if a string is empty as a key or longer than
+// a signed 32-bit length can say.
+bool AppendRecord(std::string& file, const std::string& key, const std::string& value);
+
+// A readable name of a stop reason, for diagnostics.
+const char* Describe(Stop stop);
+
+}  // namespace mox
+}  // namespace kiv_skin

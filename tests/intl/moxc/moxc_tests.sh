@@ -1,0 +1,116 @@
+#!/usr/bin/env bash
+# moxc against GNU gettext: round trips through .mox and back agree with msgfmt, bad input gets
+# an error naming file and line, a non-zero status and no output file.
+# usage: moxc_tests.sh FIXTURES WORK_DIR MOXC_COMMAND...
+set -uo pipefail
+fixtures=$1 work=$2
+shift 2
+moxc=("$@")
+rm -rf "$work" && mkdir -p "$work" && cd "$work" || exit 1
+cp "$fixtures"/*.po .
+failures=0 checks=0
+fail() { echo "FAIL: $*"; failures=$((failures + 1)); }
+check() { checks=$((checks + 1)); "$@"; }
+
+# The messages of a .mo file as msgunfmt sees them, without the header entry.
+messages() { msgunfmt --no-wrap "$1" | awk 'BEGIN { RS = ""; ORS = "\n\n" } !/^msgid ""\nmsgstr/'; }
+
+# ok NAME ARGS...: moxc succeeds.
+ok() {
+  local name=$1; shift
+  "${moxc[@]}" "$@" >"$name.out" 2>"$name.err" || fail "$name: moxc $* failed: $(cat "$name.err")"
+}
+
+# error NAME OUTPUT PATTERN ARGS...: moxc fails with a message matching PATTERN and leaves no OUTPUT.
+error() {
+  local name=$1 output=$2 pattern=$3; shift 3
+  if "${moxc[@]}" "$@" >"$name.out" 2>"$name.err"; then fail "$name: moxc $* succeeded"; fi
+  grep -qE -- "$pattern" "$name.err" || fail "$name: message '$(cat "$name.err")' does not match '$pattern'"
+  [ ! -e "$output" ] && [ ! -e "$output.tmp" ] || fail "$name: output $output was left behind"
+}
+
+# contains FILE HEX: the file holds the bytes.
+contains() { LC_ALL=C grep -qF "$(printf "$2")" "$1" || fail "$1 does not hold the bytes $2"; }
+
+# Round trip: .po -> .mox -> .po gives msgfmt the same messages as the original.
+# round_trip NAME LANGUAGE [COMPILE OPTIONS...]
+round_trip() {
+  local po=$1 lang=$2; shift 2
+  ok "compile_$po" compile "$po.po" -o "$po.mox" "$@"
+  ok "dump_$po" dump "$po.mox" -o "$po.back.po" --lang "$lang"
+  msgfmt -o "$po.mo" "$po.po" && msgfmt -o "$po.back.mo" "$po.back.po" || fail "$po: msgfmt failed"
+  [ -n "$(messages "$po.mo")" ] || fail "$po: msgfmt produced no messages"
+  diff <(messages "$po.mo") <(messages "$po.back.mo") || fail "$po: round trip differs from msgfmt"
+}
+check round_trip real_zh_CN zh_CN
+check round_trip real_zh_TW zh_TW
+check round_trip en en --code-page CP1252
+check contains real_zh_CN.mox '\xd7\xee\xd0\xc2\xbc\xdb'   # 最新价 in GB2312
+check contains real_zh_TW.mox '\xc0\xc9\xae\xd7'           # 檔案 in Big5
+check contains en.mox 'Caf\xe9'
+check contains en.mox '\x80 price'
+
+# Fuzzy, untranslated and obsolete entries are left out as msgfmt leaves them out.
+check ok check_real check real_zh_CN.mox
+check grep -q "15 records, 15 keys" check_real.out || fail "real_zh_CN.mox should hold 15 records"
+
+# A .mo compiles to the same catalogue as its .po.
+check ok compile_mo compile real_zh_CN.mo -o from_mo.mox --lang zh_CN
+check ok dump_mo dump from_mo.mox -o from_mo.po --lang zh_CN
+check cmp -s from_mo.po real_zh_CN.back.po || fail ".mo and .po give different catalogues"
+
+# The language's code page from --lang, the header, or a directory in the output path.
+mkdir -p locale/zh_TW/LC_MESSAGES
+sed '/^"Language:/d' real_zh_TW.po > nolang.po
+check ok compile_path compile nolang.po -o locale/zh_TW/LC_MESSAGES/x.mox
+check contains locale/zh_TW/LC_MESSAGES/x.mox '\xc0\xc9\xae\xd7'
+check error no_language nolang.mox "--lang|--code-page" compile nolang.po -o nolang.mox
+
+# Contexts and plural forms: warnings that name the line.
+check ok features compile features.po -o features.mox
+check grep -qE "features.po:12: warning: .*context \"menu\"" features.err || fail "no context warning: $(cat features.err)"
+check grep -qE "features.po:19: warning: plural message \"%d day\"" features.err || fail "no plural warning"
+
+# Bad input.
+check error unrepresentable u.mox 'unrepresentable.po:6: .*cannot be represented in code page 936' compile unrepresentable.po -o u.mox
+check error not_latin en_bad.mox 'en_bad.po:3: .*cannot be represented' compile en_bad.po -o en_bad.mox --lang en
+# bad_po NAME CONTENT PATTERN: a .po with CONTENT fails to compile with a message matching PATTERN.
+bad_po() { printf "$2" > "$1.po"; error "$1" out.mox "$3" compile "$1.po" -o out.mox --lang en; }
+check bad_po unterminated 'msgid "a"\nmsgstr "b\n' 'unterminated.po:2: .*double quotes'
+check bad_po escape 'msgid "a"\nmsgstr "\\q"\n' 'escape.po:2: invalid escape sequence'
+check bad_po orphan '\nmsgstr "b"\n' 'orphan.po:2: msgstr without a msgid'
+check bad_po duplicate 'msgid "a"\nmsgstr "b"\n\nmsgid "a"\nmsgstr "c"\n' \
+  'duplicate.po:4: duplicate message "a" \(first defined on line 1\)'
+check bad_po keyword 'msgid "a"\nmsgtext "b"\n' 'keyword.po:2: unknown keyword msgtext'
+check bad_po nostr 'msgid "a"\n' 'nostr.po:1: msgid "a" has no msgstr'
+head -c 30 real_zh_CN.mo > cut.mo
+check error cut_mo out.mox 'cut.mo: .*past the end' compile cut.mo -o out.mox --lang zh_CN
+printf 'not a mo file at all....' > bad.mo
+check error bad_mo out.mox 'bad.mo: not a .mo file' compile bad.mo -o out.mox --lang zh_CN
+check error missing out.mox 'missing.po: cannot open' compile missing.po -o out.mox --lang en
+echo keep > kept.mox
+"${moxc[@]}" compile unrepresentable.po -o kept.mox >/dev/null 2>&1
+check grep -qx keep kept.mox || fail "a failed compile touched an existing output"
+
+# Checking damaged catalogues.
+checkfile() { # NAME BYTES STATUS PATTERN
+  printf "$2" > "$1.mox"
+  "${moxc[@]}" check "$1.mox" > "$1.out" 2>&1; local status=$?
+  [ "$status" = "$3" ] || fail "check $1: status $status, expected $3"
+  grep -qE "$4" "$1.out" || fail "check $1: '$(cat "$1.out")' does not match '$4'"
+}
+check checkfile six 'mox1.0' 1 'shorter than 10 bytes'
+check checkfile zero 'mox1.0\0\0\0\0' 1 'offset 6: key length below 1'
+check checkfile huge 'mox1.0\1\0\0\0a\1\0\0\0b\377\377\377\177xxxx' 1 '1 records.*|offset 16: key length'
+check checkfile negative 'mox1.0\1\0\0\0a\377\377\377\377' 1 'offset 11: translation length negative'
+check checkfile halfcut 'mox1.0\1\0\0\0a\0\0\0\0\5\0' 1 'offset 15: key length cut short'
+check checkfile magic 'MOX1.0\1\0\0\0a\0\0\0\0' 1 'does not start with'
+check checkfile good 'mox1.0\1\0\0\0a\0\0\0\0' 0 'ok: end of file'
+
+# Usage errors.
+"${moxc[@]}" frobnicate x >/dev/null 2>&1; [ $? = 2 ] || fail "unknown command: status not 2"
+"${moxc[@]}" compile real_zh_CN.po >/dev/null 2>&1; [ $? = 2 ] || fail "missing -o: status not 2"
+"${moxc[@]}" compile real_zh_CN.po -o x.mox --lang fr >/dev/null 2>&1; [ $? = 2 ] || fail "unknown language: status not 2"
+
+echo "$checks checks, $failures failures"
+[ "$failures" = 0 ]

@@ -1,0 +1,195 @@
+// moxc: compiles gettext .po and GNU .mo files into ".mox" catalogues, dumps a catalogue back to
+// a .po file, and checks where a catalogue's record walk would stop.
+#include "charset.h"
+#include "kiv_skin/intl/languages.h"
+#include "kiv_skin/intl/mox_format.h"
+#include "mo_reader.h"
+#include "po_reader.h"
+#include "po_writer.h"
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using namespace kiv_skin;
+
+namespace moxc {
+namespace {
+
+const char kUsage[] =
+    "usage: moxc compile INPUT.po|INPUT.mo -o OUTPUT.mox [--lang en|zh_CN|zh_TW] [--code-page CP]\n"
+    "       moxc dump INPUT.mox -o OUTPUT.po [--lang en|zh_CN|zh_TW] [--code-page CP]\n"
+    "       moxc check INPUT.mox\n"
+    "The catalogue's code page is CP (a number or a name such as GB2312, BIG5, CP1252), else the\n"
+    "language's (en 1252, zh_CN 936, zh_TW 950); the language is --lang, else the .po header's\n"
+    "\"Language\", else a directory named en, zh_CN or zh_TW in the catalogue's path.\n";
+
+struct Options {
+    std::string command, input, output, lang, codePage;
+};
+
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+Options ParseArguments(int argc, char** argv)
+{
+    Options o;
+    for (int i = 1; i < argc; ++i) {
+        std::string arg = argv[i];
+        std::string* value = arg == "-o" ? &o.output : arg == "--lang" ? &o.lang : arg == "--code-page" ? &o.codePage : nullptr;
+        if (value != nullptr) {
+            if (++i == argc) throw UsageError(arg + " needs a value");
+            *value = argv[i];
+        } else if (o.command.empty()) {
+            o.command = arg;
+        } else if (o.input.empty()) {
+            o.input = arg;
+        } else {
+            throw UsageError("unexpected argument " + arg);
+        }
+    }
+    if (o.input.empty()) throw UsageError("no input file named");
+    if (o.command != "check" && o.output.empty()) throw UsageError("no output file named (-o)");
+    if (!o.lang.empty() && languages::FromDirName(o.lang.c_str()) == languages::kAuto)
+        throw UsageError("unknown language " + o.lang + " (en, zh_CN or zh_TW)");
+    return o;
+}
+
+std::string ReadAll(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw InputError(path, "cannot open for reading");
+    std::ostringstream all;
+    all << in.rdbuf();
+    return all.str();
+}
+
+// Writes through a temporary file renamed into place, so that no partial output is ever left.
+void WriteAll(const std::string& path, const std::string& bytes)
+{
+    std::string temporary = path + ".tmp";
+    std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
+    bool ok = out && out.write(bytes.data(), std::streamsize(bytes.size())) && (out.close(), !out.fail());
+    std::error_code error;
+    if (ok) {
+        std::filesystem::remove(path, error);
+        std::filesystem::rename(temporary, path, error);
+    }
+    if (!ok || error) {
+        std::filesystem::remove(temporary, error);
+        throw InputError(path, "cannot write");
+    }
+}
+
+// A language directory named in the path, e.g. locale/zh_CN/LC_MESSAGES/x.mox.
+std::string LanguageInPath(const std::string& path)
+{
+    for (const auto& part : std::filesystem::path(path))
+        if (languages::FromDirName(part.string().c_str()) != languages::kAuto) return part.string();
+    return "";
+}
+
+// The catalogue's code page from the options, else from a language (the header's or the path's).
+unsigned TargetCodePage(const Options& o, const std::string& headerLanguage, std::string& language)
+{
+    language = !o.lang.empty() ? o.lang : headerLanguage;
+    if (languages::FromDirName(language.c_str()) == languages::kAuto) language = LanguageInPath(o.output.empty() ? o.input : o.output);
+    if (!o.codePage.empty()) {
+        unsigned codePage = CodePageOf(o.codePage);
+        if (codePage == 0) throw UsageError("unknown code page " + o.codePage);
+        return codePage;
+    }
+    if (language.empty()) throw UsageError("name the catalogue's language (--lang) or code page (--code-page)");
+    return languages::CodePage(languages::FromDirName(language.c_str()));
+}
+
+bool EndsWith(const std::string& text, const std::string& end)
+{
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+int Compile(const Options& o)
+{
+    std::string bytes = ReadAll(o.input);
+    MessageSet set = EndsWith(o.input, ".mo") ? ReadMo(o.input, bytes) : ReadPo(o.input, bytes);
+    std::string language;
+    unsigned target = TargetCodePage(o, set.language, language);
+    unsigned source = set.charset.empty() || set.charset == "CHARSET" ? kUtf8 : CodePageOf(set.charset);
+    if (set.charset.empty() || set.charset == "CHARSET") Warn(o.input, "no charset in the header: reading it as UTF-8");
+    if (source == 0) throw InputError(o.input, "unknown charset " + set.charset);
+    std::string file = mox::kMagic;
+    for (const Message& m : set.messages) {
+        std::string key, value;
+        for (const std::string* text : {&m.key, &m.value}) {
+            std::string& out = text == &m.key ? key : value;
+            if (!Convert(*text, source, kUtf8, out))
+                throw InputError(m.where, "\"" + *text + "\" is not valid " + set.charset);
+            if (!Convert(*text, source, target, out))
+                throw InputError(m.where, "\"" + *text + "\" cannot be represented in code page " + CodePageName(target));
+        }
+        if (!mox::AppendRecord(file, key, value)) throw InputError(m.where, "message too long for a catalogue");
+    }
+    WriteAll(o.output, file);
+    std::fprintf(stderr, "%s: %zu messages in code page %s\n", o.output.c_str(), set.messages.size(), CodePageName(target).c_str());
+    return 0;
+}
+
+int Dump(const Options& o)
+{
+    std::string bytes = ReadAll(o.input);
+    std::string language;
+    unsigned source = TargetCodePage(o, "", language);
+    mox::Catalogue catalogue;
+    mox::WalkResult walk = mox::Load(bytes.data(), bytes.size(), catalogue);
+    if (walk.stop != mox::Stop::End)
+        Warn(o.input, "walk stopped at offset " + std::to_string(walk.offset) + ": " + mox::Describe(walk.stop) +
+                          "; dumping the " + std::to_string(catalogue.size()) + " keys read before");
+    std::map<std::string, std::string> messages;
+    for (const auto& entry : catalogue) {
+        std::string key, value;
+        if (!Convert(entry.first, source, kUtf8, key) || !Convert(entry.second, source, kUtf8, value))
+            throw InputError(o.input, "\"" + entry.first + "\" is not valid in code page " + CodePageName(source));
+        if (value.empty()) Warn(o.input, "\"" + key + "\" has an empty translation, which a .po file calls untranslated");
+        messages[key] = value;
+    }
+    WriteAll(o.output, WritePo(messages, language));
+    return 0;
+}
+
+int Check(const Options& o)
+{
+    std::string bytes = ReadAll(o.input);
+    mox::Catalogue catalogue;
+    mox::WalkResult walk = mox::Load(bytes.data(), bytes.size(), catalogue);
+    std::printf("%s: %zu bytes, %zu records, %zu keys\n", o.input.c_str(), bytes.size(), walk.records, catalogue.size());
+    if (walk.stop == mox::Stop::End) {
+        std::printf("%s: ok: %s\n", o.input.c_str(), mox::Describe(walk.stop));
+        return 0;
+    }
+    std::printf("%s: walk stops at offset %zu: %s\n", o.input.c_str(), walk.offset, mox::Describe(walk.stop));
+    return 1;
+}
+
+}  // namespace
+}  // namespace moxc
+
+int main(int argc, char** argv)
+{
+    using namespace moxc;
+    try {
+        Options o = ParseArguments(argc, argv);
+        if (o.command == "compile") return Compile(o);
+        if (o.command == "dump") return Dump(o);
+        if (o.command == "check") return Check(o);
+        throw UsageError("unknown command " + o.command);
+    } catch (const UsageError& e) {
+        std::fprintf(stderr, "moxc: %s\n%s", e.what(), kUsage);
+        return 2;
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "moxc: error: %s\n", e.what());
+        return 1;
+    }
+}
