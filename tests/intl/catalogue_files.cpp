@@ -22,15 +22,8 @@ std::string UniquePackage(const std::string& name)
     return name + "_" + std::to_string(GetCurrentProcessId());
 }
 
-std::string ExeDir()
-{
-    char path[MAX_PATH];
-    std::string full(path, GetModuleFileNameA(nullptr, path, MAX_PATH));
-    return full.substr(0, full.find_last_of('\\'));
-}
-
 CatalogueFile::CatalogueFile(const std::string& language, const std::string& package, const std::string& bytes)
-    : m_path(ExeDir() + "\\locale\\" + language + "\\LC_MESSAGES\\" + package + ".mox")
+    : m_path(ExeDir() + "locale\\" + language + "\\LC_MESSAGES\\" + package + ".mox")
 {
     WriteFileBytes(m_path, bytes);
 }

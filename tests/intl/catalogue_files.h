@@ -30,5 +30,3 @@ private:
     std::string m_path;
 };
 
-// The running executable's directory, without a trailing backslash.
-std::string ExeDir();

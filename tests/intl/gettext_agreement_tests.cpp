@@ -48,7 +48,7 @@ std::string ToCodePage(const std::string& utf8, UINT codePage)
 // not in the catalogue, so its key must come back unchanged unless it also has a plain entry.
 size_t ExpectAgreement(const std::string& mo, const std::string& package)
 {
-    std::map<std::string, std::string> messages = ReadMo(ReadFileBytes(ExeDir() + "\\locale\\zh_CN\\LC_MESSAGES\\" + mo));
+    std::map<std::string, std::string> messages = ReadMo(ReadFileBytes(ExeDir() + "locale\\zh_CN\\LC_MESSAGES\\" + mo));
     KivIntl::Instance().PreparePackage(KivIntl::LANGUAGE_ZH_CN, package.c_str());
     std::set<std::string> plain;
     size_t compared = 0;
