@@ -2,6 +2,8 @@
 // All are set up when the library is loaded.
 #pragma once
 #include <windows.h>
+#include <atomic>
+#include <cstdlib>
 
 namespace kiv_skin {
 
@@ -24,5 +26,20 @@ public:
 private:
     CRITICAL_SECTION& m_section;
 };
+
+// Answers the object in instance, creating it on first use with a test before and after taking
+// lock, so that two threads cannot create two; destroy runs when the library unloads.
+template <class T, class Create>
+T* CreateOnce(std::atomic<T*>& instance, CRITICAL_SECTION& lock, Create create, void (*destroy)())
+{
+    if (!instance) {
+        ScopedLock hold(lock);
+        if (!instance) {
+            instance = create();
+            std::atexit(destroy);
+        }
+    }
+    return instance;
+}
 
 }  // namespace kiv_skin

@@ -1,8 +1,6 @@
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/module.h"
 #include "kiv_skin/style/style_data.h"
-#include <atomic>
-#include <cstdlib>
 
 namespace kiv_skin {
 namespace {
@@ -23,14 +21,7 @@ void KivStyleMgr::Destroy() { delete g_manager.exchange(nullptr); }
 
 KivStyleMgr* KivStyleMgr::GetInstance()
 {
-    if (!g_manager) {
-        ScopedLock lock(StyleManagerLock());
-        if (!g_manager) {
-            g_manager = new KivStyleMgr;
-            std::atexit(Destroy);
-        }
-    }
-    return g_manager;
+    return CreateOnce(g_manager, StyleManagerLock(), [] { return new KivStyleMgr; }, Destroy);
 }
 
 int KivStyleMgr::InitStyleMgr()

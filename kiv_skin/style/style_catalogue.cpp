@@ -1,8 +1,6 @@
 #include "kiv_skin/style/style_catalogue.h"
 #include "kiv_base/config.h"
 #include "kiv_skin/module.h"
-#include <atomic>
-#include <cstdlib>
 #include <list>
 #include <string>
 
@@ -31,14 +29,7 @@ void ReadStyleFiles(kiv_base::CConfig& config, CCfgNode* style, StyleEntry& entr
 
 StyleCatalogue* StyleCatalogue::Instance()
 {
-    if (!g_catalogue) {
-        ScopedLock lock(StyleCatalogueLock());
-        if (!g_catalogue) {
-            g_catalogue = new StyleCatalogue;
-            std::atexit(DestroyCatalogue);
-        }
-    }
-    return g_catalogue;
+    return CreateOnce(g_catalogue, StyleCatalogueLock(), [] { return new StyleCatalogue; }, DestroyCatalogue);
 }
 
 int StyleCatalogue::LoadCatalogue()
