@@ -39,7 +39,8 @@ typedef std::function<void(const char* key, size_t keySize, const char* value, s
 // Walks a whole file image; records before a malformed one have been visited when it returns.
 WalkResult Walk(const char* data, size_t size, const RecordFn& onRecord);
 
-typedef std::map<std::string, std::string> Catalogue;
+// Ordered by plain byte comparison; look-ups by a C string need no temporary string.
+typedef std::map<std::string, std::string, std::less<>> Catalogue;
 
 // Walks into a catalogue: key and translation cut at their first zero byte, the last record of
 // a key winning. Existing entries are kept unless a record replaces them.
