@@ -1,5 +1,6 @@
 #include "kiv_skin/style/color_table.h"
 #include "kiv_skin/style/scheme_file.h"
+#include "kiv_base/file_helpers.h"
 #include <cstdio>
 #include <cstring>
 
@@ -142,7 +143,7 @@ int AssignColors(const ColorList& from, ColorTable& table)
 
 bool SaveColors(const ColorTable& table, const CString& path)
 {
-    return IsExistingFile(path) ? UpdateExistingFile(table, path) : CreateNewFile(table, path);
+    return kiv_base::FileHelper::IsFileExist(path.GetString()) ? UpdateExistingFile(table, path) : CreateNewFile(table, path);
 }
 
 }  // namespace kiv_skin

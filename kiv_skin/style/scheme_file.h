@@ -12,13 +12,6 @@ inline TiXmlElement* FindSection(TiXmlDocument& doc, const char* name)
     return root ? root->FirstChildElement(name) : nullptr;
 }
 
-// True when path names an existing file that is not a directory.
-inline bool IsExistingFile(const CString& path)
-{
-    DWORD attributes = GetFileAttributesA(path);
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
 // The attribute's text, empty when absent.
 inline CString AttributeText(const TiXmlElement* element, const char* name)
 {
