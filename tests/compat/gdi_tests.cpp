@@ -82,14 +82,20 @@ TEST(CBitmap, CreateCompatibleBitmapHasTheSize)
     EXPECT_EQ(13, info.bmHeight);
 }
 
-TEST(CResourceException, ThrownByPointerWhenAPenCannotBeMade)
+// A window handle that names no window gets no device context: the constructor throws the
+// framework's resource exception, by pointer.
+TEST(CResourceException, ThrownByPointerWhenAClientDCCannotBeMade)
 {
+    CWnd stale;
+    stale.m_hWnd = reinterpret_cast<HWND>(static_cast<UINT_PTR>(0x7FFF0));
+    bool thrown = false;
     try {
-        CPen pen(PS_SOLID, 1, RGB(1, 1, 1));
-        SUCCEED();
+        CClientDC dc(&stale);
     } catch (CResourceException* e) {
+        thrown = true;
         e->Delete();
-        FAIL() << "a valid pen raised";
     }
-    EXPECT_THROW(AfxThrowResourceException(), CResourceException*);
+    stale.m_hWnd = nullptr;  // nothing to destroy
+    EXPECT_TRUE(thrown);
+    EXPECT_NO_THROW(CClientDC(nullptr));
 }
