@@ -111,25 +111,30 @@ bool EndsWith(const std::string& text, const std::string& end)
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
+// text in the catalogue's code page; on failure, says whether the input or the target is at fault.
+std::string Encode(const std::string& text, unsigned source, unsigned target, const std::string& where,
+                   const std::string& charset)
+{
+    std::string out;
+    if (Convert(text, source, target, out)) return out;
+    if (!Convert(text, source, kUtf8, out)) throw InputError(where, "\"" + text + "\" is not valid " + charset);
+    throw InputError(where, "\"" + text + "\" cannot be represented in code page " + CodePageName(target));
+}
+
 int Compile(const Options& o)
 {
     std::string bytes = ReadAll(o.input);
     MessageSet set = EndsWith(o.input, ".mo") ? ReadMo(o.input, bytes) : ReadPo(o.input, bytes);
     std::string language;
     unsigned target = TargetCodePage(o, set.language, language);
-    unsigned source = set.charset.empty() || set.charset == "CHARSET" ? kUtf8 : CodePageOf(set.charset);
-    if (set.charset.empty() || set.charset == "CHARSET") Warn(o.input, "no charset in the header: reading it as UTF-8");
+    bool declared = !set.charset.empty() && set.charset != "CHARSET";
+    if (!declared) Warn(o.input, "no charset in the header: reading it as UTF-8");
+    unsigned source = declared ? CodePageOf(set.charset) : kUtf8;
     if (source == 0) throw InputError(o.input, "unknown charset " + set.charset);
     std::string file = mox::kMagic;
     for (const Message& m : set.messages) {
-        std::string key, value;
-        for (const std::string* text : {&m.key, &m.value}) {
-            std::string& out = text == &m.key ? key : value;
-            if (!Convert(*text, source, kUtf8, out))
-                throw InputError(m.where, "\"" + *text + "\" is not valid " + set.charset);
-            if (!Convert(*text, source, target, out))
-                throw InputError(m.where, "\"" + *text + "\" cannot be represented in code page " + CodePageName(target));
-        }
+        std::string key = Encode(m.key, source, target, m.where, set.charset);
+        std::string value = Encode(m.value, source, target, m.where, set.charset);
         if (!mox::AppendRecord(file, key, value)) throw InputError(m.where, "message too long for a catalogue");
     }
     WriteAll(o.output, file);
