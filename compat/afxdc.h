@@ -6,7 +6,9 @@
 #include "afxstr.h"
 #include "afxtypes.h"
 
-class CDC {
+class CDC : public CObject {
+    DECLARE_DYNAMIC(CDC)
+
 public:
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr;
@@ -83,6 +85,10 @@ public:
     CSize GetTextExtent(const CString& str) const { return Extent(m_hAttribDC, str, str.GetLength()); }
     CSize GetOutputTextExtent(LPCSTR lpszString, int nCount) const { return Extent(m_hDC, lpszString, nCount); }
     CSize GetOutputTextExtent(const CString& str) const { return Extent(m_hDC, str, str.GetLength()); }
+    BOOL GetCharWidth(UINT nFirstChar, UINT nLastChar, LPINT lpBuffer) const
+    {
+        return ::GetCharWidthA(m_hAttribDC, nFirstChar, nLastChar, lpBuffer);
+    }
     BOOL GetTextMetrics(LPTEXTMETRICA lpMetrics) const { return ::GetTextMetricsA(m_hAttribDC, lpMetrics); }
     BOOL GetOutputTextMetrics(LPTEXTMETRICA lpMetrics) const { return ::GetTextMetricsA(m_hDC, lpMetrics); }
 
@@ -115,6 +121,8 @@ public:
     void FrameRect(LPCRECT lpRect, CBrush* pBrush) { ::FrameRect(m_hDC, lpRect, *pBrush); }
     BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
     BOOL Rectangle(LPCRECT r) { return ::Rectangle(m_hDC, r->left, r->top, r->right, r->bottom); }
+    BOOL RoundRect(int x1, int y1, int x2, int y2, int x3, int y3) { return ::RoundRect(m_hDC, x1, y1, x2, y2, x3, y3); }
+    BOOL RoundRect(LPCRECT r, POINT point) { return RoundRect(r->left, r->top, r->right, r->bottom, point.x, point.y); }
     BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
     BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     CPoint MoveTo(int x, int y)
@@ -171,6 +179,12 @@ private:
         return CSize(size);
     }
 };
+
+inline const CRuntimeClass CDC::classCDC = {"CDC", sizeof(CDC), 0xFFFF, nullptr, &CDC::_GetBaseClass,
+                                             nullptr, nullptr};
+inline CRuntimeClass* PASCAL CDC::_GetBaseClass() { return RUNTIME_CLASS(CObject); }
+inline CRuntimeClass* PASCAL CDC::GetThisClass() { return _RUNTIME_CLASS(CDC); }
+inline CRuntimeClass* CDC::GetRuntimeClass() const { return _RUNTIME_CLASS(CDC); }
 
 inline BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
 {

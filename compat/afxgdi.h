@@ -2,13 +2,14 @@
 // Objects own their handle and delete it on destruction; FromHandle answers the object that
 // owns a handle, or a temporary wrapper that never deletes it, as MFC's handle map does.
 #pragma once
+#include "afx.h"
 #include "afxexcept.h"
 #include <map>
 #include <memory>
 
 class CDC;
 
-class CGdiObject {
+class CGdiObject : public CObject {
 public:
     HGDIOBJ m_hObject = nullptr;
 

@@ -2,9 +2,11 @@
 // Every class and member here exists in MFC with the same signature and behaviour.
 #pragma once
 #include <windows.h>
+#include "afx.h"
 #include "afxexcept.h"
 #include "afxstr.h"
 #include "afxtypes.h"
 #include "afxgdi.h"
 #include "afxdc.h"
 #include "afxwnd.h"
+#include "afxmodule.h"

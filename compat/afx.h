@@ -1,0 +1,65 @@
+// The root of MFC's class tree from <afx.h>: CObject and the run-time class information that
+// DECLARE_DYNAMIC and IMPLEMENT_DYNAMIC give a class, in the layout of a shared-MFC build
+// (_AFXDLL), where a class names its base through _GetBaseClass.
+#pragma once
+#include <windows.h>
+
+class CObject;
+
+struct CRuntimeClass {
+    LPCSTR m_lpszClassName;
+    int m_nObjectSize;
+    UINT m_wSchema;
+    CObject* (PASCAL* m_pfnCreateObject)();
+    CRuntimeClass* (PASCAL* m_pfnGetBaseClass)();
+    CRuntimeClass* m_pNextClass;
+    const void* m_pClassInit;
+
+    BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const
+    {
+        for (const CRuntimeClass* c = this; c != nullptr;
+             c = c->m_pfnGetBaseClass ? c->m_pfnGetBaseClass() : nullptr)
+            if (c == pBaseClass) return TRUE;
+        return FALSE;
+    }
+};
+
+#define _RUNTIME_CLASS(class_name) ((CRuntimeClass*)(&class_name::class##class_name))
+#define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
+
+#define DECLARE_DYNAMIC(class_name)                 \
+protected:                                          \
+    static CRuntimeClass* PASCAL _GetBaseClass();   \
+                                                    \
+public:                                             \
+    static const CRuntimeClass class##class_name;   \
+    static CRuntimeClass* PASCAL GetThisClass();    \
+    virtual CRuntimeClass* GetRuntimeClass() const;
+
+#define IMPLEMENT_DYNAMIC(class_name, base_class_name)                                       \
+    CRuntimeClass* PASCAL class_name::_GetBaseClass() { return RUNTIME_CLASS(base_class_name); } \
+    const CRuntimeClass class_name::class##class_name = {                                    \
+        #class_name, sizeof(class class_name), 0xFFFF, nullptr, &class_name::_GetBaseClass,  \
+        nullptr, nullptr};                                                                   \
+    CRuntimeClass* PASCAL class_name::GetThisClass() { return _RUNTIME_CLASS(class_name); }  \
+    CRuntimeClass* class_name::GetRuntimeClass() const { return _RUNTIME_CLASS(class_name); }
+
+class CObject {
+public:
+    static const CRuntimeClass classCObject;
+    static CRuntimeClass* PASCAL GetThisClass() { return _RUNTIME_CLASS(CObject); }
+    virtual CRuntimeClass* GetRuntimeClass() const { return _RUNTIME_CLASS(CObject); }
+    virtual ~CObject() = default;
+
+    BOOL IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
+
+protected:
+    CObject() = default;
+
+private:
+    CObject(const CObject&) = delete;
+    void operator=(const CObject&) = delete;
+};
+
+inline const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr,
+                                                     nullptr, nullptr, nullptr};
