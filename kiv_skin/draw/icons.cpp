@@ -1,0 +1,9 @@
+// Scheme icons.
+#include "kiv_skin/draw/kiv_draw.h"
+
+namespace kiv_skin {
+
+// Exported for the host's sake; draws nothing.
+void KivDraw::DrawWekImage(CDC*, int, int, int) {}
+
+}  // namespace kiv_skin

@@ -1,0 +1,105 @@
+// Fills, outlines, grooved title strips, rounded rectangles, and the panel's frame and selection.
+#include "kiv_skin/draw/kiv_draw.h"
+#include "kiv_skin/draw/scheme.h"
+
+namespace kiv_skin {
+namespace {
+
+// The outline just inside rect: its right and bottom lines lie on right - 1 and bottom - 1.
+void InsideOutline(CDC* dc, const RECT* rect)
+{
+    dc->MoveTo(rect->left, rect->top);
+    dc->LineTo(rect->right - 1, rect->top);
+    dc->LineTo(rect->right - 1, rect->bottom - 1);
+    dc->LineTo(rect->left, rect->bottom - 1);
+    dc->LineTo(rect->left, rect->top);
+}
+
+// Horizontal lines across rect on rows first, first + 3, ... below its bottom.
+void EveryThirdRow(CDC* dc, const RECT* rect, int first)
+{
+    for (int y = first; y < rect->bottom; y += 3) {
+        dc->MoveTo(rect->left, y);
+        dc->LineTo(rect->right, y);
+    }
+}
+
+}  // namespace
+
+void KivDraw::FillRect(CDC* dc, int x, int y, int width, int height, COLORREF color)
+{
+    if (color == kNoColor) color = SchemeColor("BACKGROUND");
+    CBrush brush;
+    brush.CreateSolidBrush(color);
+    CBrush* previous = dc->SelectObject(&brush);
+    dc->PatBlt(x, y, width, height, PATCOPY);
+    dc->SelectObject(previous);
+}
+
+void KivDraw::FillRect(CDC* dc, const RECT* rect, COLORREF color)
+{
+    FillRect(dc, rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top, color);
+}
+
+void KivDraw::RectangleLine(CDC* dc, const RECT* rect)
+{
+    dc->MoveTo(rect->left, rect->top);
+    dc->LineTo(rect->right, rect->top);
+    dc->LineTo(rect->right, rect->bottom);
+    dc->LineTo(rect->left, rect->bottom);
+    dc->LineTo(rect->left, rect->top);
+}
+
+void KivDraw::DrawTitleLine(CDC* dc, const RECT* rect, COLORREF color)
+{
+    CPen light, dark;
+    light.CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNHIGHLIGHT));
+    dark.CreatePen(PS_SOLID, 1, color);
+    CPen* previous = dc->SelectObject(&dark);
+    EveryThirdRow(dc, rect, rect->top + 2);
+    dc->SelectObject(&light);
+    EveryThirdRow(dc, rect, rect->top + 1);
+    dc->SelectObject(previous);
+}
+
+void KivDraw::FillRoundRect(CDC* dc, const RECT* rect, POINT corner, COLORREF color)
+{
+    CBrush brush;
+    brush.CreateSolidBrush(color);
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 1, color);
+    CBrush* previousBrush = dc->SelectObject(&brush);
+    CPen* previousPen = dc->SelectObject(&pen);
+    dc->RoundRect(rect, corner);
+    dc->SelectObject(previousBrush);
+    dc->SelectObject(previousPen);
+}
+
+int KivDraw::DrawPluginSelect(CDC* dc, const RECT* rect, int width, int penStyle, COLORREF color)
+{
+    if (dc == nullptr) return -1;
+    if (color == 0) color = SchemeColor("PLUG_SELCOLOR");
+    int penWidth = width == 0 ? 1 : width;
+    int style = penStyle == -1 || penWidth >= 2 ? PS_SOLID : penStyle;
+    CPen pen;
+    pen.CreatePen(style, penWidth, color);
+    CPen* previous = dc->SelectObject(&pen);
+    InsideOutline(dc, rect);
+    dc->SelectObject(previous);
+    return penWidth;
+}
+
+int KivDraw::DrawPluginFrame(CDC* dc, const RECT* rect)
+{
+    if (dc == nullptr) return -1;
+    COLORREF background = SchemeColor("PLUG_BGCOLOR");
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 1, SchemeColor("PLUG_FRAME"));
+    CPen* previous = dc->SelectObject(&pen);
+    dc->FillSolidRect(rect, background);
+    InsideOutline(dc, rect);
+    dc->SelectObject(previous);
+    return 1;
+}
+
+}  // namespace kiv_skin
