@@ -15,11 +15,14 @@ struct CRuntimeClass {
     CRuntimeClass* m_pNextClass;
     const void* m_pClassInit;
 
+    // The framework's classes are described once per module here (MFC keeps one copy in its
+    // DLL), so a class matches its copy in another module by name.
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const
     {
         for (const CRuntimeClass* c = this; c != nullptr;
              c = c->m_pfnGetBaseClass ? c->m_pfnGetBaseClass() : nullptr)
-            if (c == pBaseClass) return TRUE;
+            if (c == pBaseClass || ::lstrcmpA(c->m_lpszClassName, pBaseClass->m_lpszClassName) == 0)
+                return TRUE;
         return FALSE;
     }
 };

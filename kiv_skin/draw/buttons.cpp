@@ -9,6 +9,14 @@ namespace {
 const int kIcon = 16;        // icons are 16 by 16
 const int kIconPitch = 32;   // each icon is a 16-column mask followed by its 16-column glyph
 
+// Fills rect with color and puts the context's background colour back.
+void FillKeepingBackground(CDC* dc, const CRect* rect, COLORREF color)
+{
+    COLORREF background = dc->GetBkColor();
+    dc->FillSolidRect(rect, color);
+    dc->SetBkColor(background);
+}
+
 }  // namespace
 
 void KivDraw::DrawButtonBackground(CDC* dc, CRect* rect, BUTTON_STATE state)
@@ -19,7 +27,7 @@ void KivDraw::DrawButtonBackground(CDC* dc, CRect* rect, BUTTON_STATE state)
 void KivDraw::DrawButton(CDC* dc, CRect* rect, BUTTON_STATE state, int image, int transparent, int framed)
 {
     if (dc == nullptr) return;
-    if (!transparent) dc->FillSolidRect(rect, GetButtonBackgroundColor(state));
+    if (!transparent) FillKeepingBackground(dc, rect, GetButtonBackgroundColor(state));
     CBitmap* strip = SchemeBitmap("KIV_TOOL");
     if (strip == nullptr) return;
     CMemoDC icons(dc, strip);

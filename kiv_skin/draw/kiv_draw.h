@@ -40,7 +40,8 @@ public:
     // The selection frame just inside rect; colour 0 means the scheme's "PLUG_SELCOLOR".
     // Answers the pen width used, or -1 for a null context.
     static int DrawPluginSelect(CDC* dc, const RECT* rect, int width, int penStyle, COLORREF color);
-    // The panel's background and frame; 1, or -1 for a null context.
+    // The panel's background and frame just inside rect; 1, or -1 for a null context. Leaves
+    // the background colour set to the panel's, as filling a solid rectangle does.
     static int DrawPluginFrame(CDC* dc, const RECT* rect);
 
     // --- Text ------------------------------------------------------------------------------

@@ -5,23 +5,31 @@
 namespace kiv_skin {
 namespace {
 
-// The outline just inside rect: its right and bottom lines lie on right - 1 and bottom - 1.
-void InsideOutline(CDC* dc, const RECT* rect)
+// Outlines left, top, right, bottom with the selected pen, right and bottom included, and puts
+// the current position back.
+void Outline(CDC* dc, int left, int top, int right, int bottom)
 {
-    dc->MoveTo(rect->left, rect->top);
-    dc->LineTo(rect->right - 1, rect->top);
-    dc->LineTo(rect->right - 1, rect->bottom - 1);
-    dc->LineTo(rect->left, rect->bottom - 1);
-    dc->LineTo(rect->left, rect->top);
+    CPoint position = dc->MoveTo(left, top);
+    dc->LineTo(right, top);
+    dc->LineTo(right, bottom);
+    dc->LineTo(left, bottom);
+    dc->LineTo(left, top);
+    dc->MoveTo(position);
 }
 
-// Horizontal lines across rect on rows first, first + 3, ... below its bottom.
+// The outline just inside rect: its right and bottom lines lie on right - 1 and bottom - 1.
+void InsideOutline(CDC* dc, const RECT* rect) { Outline(dc, rect->left, rect->top, rect->right - 1, rect->bottom - 1); }
+
+// Horizontal lines across rect on rows first, first + 3, ... above its bottom; the current
+// position is put back.
 void EveryThirdRow(CDC* dc, const RECT* rect, int first)
 {
+    CPoint position = dc->MoveTo(rect->left, first);
     for (int y = first; y < rect->bottom; y += 3) {
         dc->MoveTo(rect->left, y);
         dc->LineTo(rect->right, y);
     }
+    dc->MoveTo(position);
 }
 
 }  // namespace
@@ -41,14 +49,7 @@ void KivDraw::FillRect(CDC* dc, const RECT* rect, COLORREF color)
     FillRect(dc, rect->left, rect->top, rect->right - rect->left, rect->bottom - rect->top, color);
 }
 
-void KivDraw::RectangleLine(CDC* dc, const RECT* rect)
-{
-    dc->MoveTo(rect->left, rect->top);
-    dc->LineTo(rect->right, rect->top);
-    dc->LineTo(rect->right, rect->bottom);
-    dc->LineTo(rect->left, rect->bottom);
-    dc->LineTo(rect->left, rect->top);
-}
+void KivDraw::RectangleLine(CDC* dc, const RECT* rect) { Outline(dc, rect->left, rect->top, rect->right, rect->bottom); }
 
 void KivDraw::DrawTitleLine(CDC* dc, const RECT* rect, COLORREF color)
 {

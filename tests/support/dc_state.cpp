@@ -1,31 +1,80 @@
 #include "support/dc_state.h"
 
-DcState DcState::Capture(HDC hdc)
+namespace {
+
+std::vector<char> ClipRegionData(HDC hdc, bool& clipped)
 {
-    return {GetCurrentObject(hdc, OBJ_PEN),  GetCurrentObject(hdc, OBJ_BRUSH),
-            GetCurrentObject(hdc, OBJ_FONT), GetCurrentObject(hdc, OBJ_BITMAP),
-            GetTextColor(hdc), GetBkColor(hdc), GetBkMode(hdc), GetTextAlign(hdc)};
+    HRGN region = CreateRectRgn(0, 0, 0, 0);
+    clipped = GetClipRgn(hdc, region) == 1;
+    std::vector<char> data;
+    if (clipped) {
+        data.resize(GetRegionData(region, 0, nullptr));
+        GetRegionData(region, static_cast<DWORD>(data.size()), reinterpret_cast<RGNDATA*>(data.data()));
+    }
+    DeleteObject(region);
+    return data;
 }
 
-bool DcState::operator==(const DcState& o) const
+bool Same(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
+
+}  // namespace
+
+DcState DcState::Capture(HDC hdc)
 {
-    return pen == o.pen && brush == o.brush && font == o.font && bitmap == o.bitmap &&
-           textColor == o.textColor && bkColor == o.bkColor && bkMode == o.bkMode &&
-           textAlign == o.textAlign;
+    DcState s;
+    s.pen = GetCurrentObject(hdc, OBJ_PEN);
+    s.brush = GetCurrentObject(hdc, OBJ_BRUSH);
+    s.font = GetCurrentObject(hdc, OBJ_FONT);
+    s.bitmap = GetCurrentObject(hdc, OBJ_BITMAP);
+    s.textColor = GetTextColor(hdc);
+    s.bkColor = GetBkColor(hdc);
+    s.bkMode = GetBkMode(hdc);
+    s.textAlign = GetTextAlign(hdc);
+    s.rop2 = GetROP2(hdc);
+    s.mapMode = GetMapMode(hdc);
+    s.stretchMode = GetStretchBltMode(hdc);
+    GetCurrentPositionEx(hdc, &s.position);
+    GetBrushOrgEx(hdc, &s.brushOrigin);
+    s.clipRegion = ClipRegionData(hdc, s.clipped);
+    return s;
+}
+
+std::string DcState::Differences(const DcState& o) const
+{
+    std::string d;
+    auto note = [&d](bool same, const char* what) {
+        if (!same) d += d.empty() ? what : std::string(", ") + what;
+    };
+    note(pen == o.pen, "pen");
+    note(brush == o.brush, "brush");
+    note(font == o.font, "font");
+    note(bitmap == o.bitmap, "bitmap");
+    note(textColor == o.textColor, "text colour");
+    note(bkColor == o.bkColor, "background colour");
+    note(bkMode == o.bkMode, "background mode");
+    note(textAlign == o.textAlign, "text alignment");
+    note(rop2 == o.rop2, "ROP2 mode");
+    note(mapMode == o.mapMode, "map mode");
+    note(stretchMode == o.stretchMode, "stretch mode");
+    note(Same(position, o.position), "current position");
+    note(Same(brushOrigin, o.brushOrigin), "brush origin");
+    note(clipped == o.clipped && clipRegion == o.clipRegion, "clip region");
+    return d;
+}
+
+DcStateCheck::DcStateCheck(CDC* dc)
+    : m_output(dc->m_hDC), m_attrib(dc->m_hAttribDC), m_outputBefore(DcState::Capture(dc->m_hDC)),
+      m_attribBefore(DcState::Capture(dc->m_hAttribDC))
+{
 }
 
 ::testing::AssertionResult DcStateCheck::Unchanged() const
 {
-    DcState now = DcState::Capture(m_hdc);
-    if (now == m_before) return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure()
-           << "DC state changed: pen " << (now.pen == m_before.pen) << ", brush "
-           << (now.brush == m_before.brush) << ", font " << (now.font == m_before.font)
-           << ", bitmap " << (now.bitmap == m_before.bitmap) << ", text colour "
-           << (now.textColor == m_before.textColor) << ", background colour "
-           << (now.bkColor == m_before.bkColor) << ", background mode "
-           << (now.bkMode == m_before.bkMode) << ", text alignment "
-           << (now.textAlign == m_before.textAlign) << " (1 = unchanged)";
+    std::string output = DcState::Capture(m_output).Differences(m_outputBefore);
+    std::string attrib = DcState::Capture(m_attrib).Differences(m_attribBefore);
+    if (output.empty() && attrib.empty()) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << "changed on the output handle: [" << output
+                                         << "], on the attribute handle: [" << attrib << "]";
 }
 
 int GdiProbeSlot()

@@ -2,26 +2,35 @@
 #pragma once
 #include <afxwin.h>
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
+// Everything of one DC handle that a drawing routine could disturb and a caller would notice.
 struct DcState {
     HGDIOBJ pen, brush, font, bitmap;
     COLORREF textColor, bkColor;
     int bkMode;
     UINT textAlign;
+    int rop2, mapMode, stretchMode;
+    POINT position, brushOrigin;
+    bool clipped;
+    std::vector<char> clipRegion;  // the clip region's data, empty when there is none
 
     static DcState Capture(HDC hdc);
-    bool operator==(const DcState& o) const;
+    // The names of what differs from o, or empty.
+    std::string Differences(const DcState& o) const;
 };
 
-// Captures a DC's state when made; Verify() fails the test if anything differs since.
+// Captures the state of a CDC's output and attribute handles when made; Unchanged() fails the
+// test if anything differs since.
 class DcStateCheck {
 public:
-    explicit DcStateCheck(CDC* dc) : m_hdc(dc->m_hDC), m_before(DcState::Capture(dc->m_hDC)) {}
+    explicit DcStateCheck(CDC* dc);
     ::testing::AssertionResult Unchanged() const;
 
 private:
-    HDC m_hdc;
-    DcState m_before;
+    HDC m_output, m_attrib;
+    DcState m_outputBefore, m_attribBefore;
 };
 
 // The handle slot a newly created GDI object gets: stays put while nothing leaks, grows by one
