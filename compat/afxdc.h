@@ -12,6 +12,7 @@ class CDC : public CObject {
 public:
     HDC m_hDC = nullptr;
     HDC m_hAttribDC = nullptr;
+    BOOL m_bPrinting = FALSE;  // set by the framework while the context prints
 
     CDC() = default;
     CDC(const CDC&) = delete;
@@ -53,6 +54,7 @@ public:
         return ok;
     }
     int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
+    BOOL IsPrinting() const { return m_bPrinting; }
 
     // Selected objects
     HGDIOBJ SelectObject(HGDIOBJ hObject) { return SelectBoth(hObject); }

@@ -1,5 +1,6 @@
 // Icon buttons of the scheme's "KIV_TOOL" strip in their normal, hover and pressed states.
 #include "kiv_skin/display/memo_dc.h"
+#include "kiv_skin/draw/arrow_button.h"
 #include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/draw/scheme.h"
 
@@ -17,7 +18,58 @@ void FillKeepingBackground(CDC* dc, const CRect* rect, COLORREF color)
     dc->SetBkColor(background);
 }
 
+// The triangle's corners in r, for each direction.
+void TrianglePoints(const CRect& r, int direction, POINT points[3])
+{
+    int midX = (r.left + r.right) / 2, midY = (r.top + r.bottom) / 2;
+    switch (direction) {
+    case 0: points[0] = {r.left, midY}, points[1] = {r.right, r.top}, points[2] = {r.right, r.bottom}; break;
+    case 1: points[0] = {r.left, r.top}, points[1] = {r.right, midY}, points[2] = {r.left, r.bottom}; break;
+    case 2: points[0] = {r.left, r.top}, points[1] = {r.right, r.top}, points[2] = {midX, r.bottom}; break;
+    case 3: points[0] = {midX, r.top}, points[1] = {r.right, r.bottom}, points[2] = {r.left, r.bottom}; break;
+    default: points[0] = {r.left, r.top}, points[1] = {r.right, r.top}, points[2] = {r.left, r.bottom}; break;
+    }
+}
+
 }  // namespace
+
+void DrawTriangleButton(CDC* dc, const RECT* rect, COLORREF arrowColor, COLORREF background, int direction,
+                        int keepShape)
+{
+    CPen pen;
+    pen.CreatePen(PS_SOLID, 1, arrowColor);
+    CPen* previousPen = dc->SelectObject(&pen);
+    if (background != kNoColor) {
+        CBrush fill;
+        fill.CreateSolidBrush(background);
+        CBrush* previous = dc->SelectObject(&fill);
+        dc->Rectangle(rect);
+        dc->SelectObject(previous);
+    }
+    CRect r(rect);
+    if (!keepShape) {
+        int w = r.Width(), h = r.Height();
+        if (w <= h)
+            r.InflateRect(0, -((h - w) / 2));
+        else
+            r.InflateRect(-((w - h) / 2), 0);
+    }
+    r.InflateRect(1 - r.Width() / 3, 1 - r.Height() / 3);
+    POINT points[3];
+    TrianglePoints(r, direction, points);
+    CBrush arrow;
+    arrow.CreateSolidBrush(arrowColor);
+    CBrush* previousBrush = dc->SelectObject(&arrow);
+    dc->Polygon(points, 3);
+    dc->SelectObject(previousBrush);
+    dc->SelectObject(previousPen);
+}
+
+void KivDraw::DrawArrowButton(CDC* dc, const RECT* rect, COLORREF arrowColor, COLORREF background, int direction,
+                              int keepShape)
+{
+    DrawTriangleButton(dc, rect, arrowColor, background, direction, keepShape);
+}
 
 void KivDraw::DrawButtonBackground(CDC* dc, CRect* rect, BUTTON_STATE state)
 {

@@ -50,6 +50,22 @@ public:
     static int TextOutLimitWidth(CDC* dc, const RECT* rect, const std::wstring& text, int& count,
                                  CRect margins, int measureOnly);
 
+    // --- Axes, gauges, icons -------------------------------------------------------------
+    // A value axis from "from" to "to" with an arrow head, the title ending at the tip, and up to
+    // ticks labelled tick marks ("%.2f", or "%.0f" of whole values with integerLabels) that keep
+    // three text heights apart and clear of the title; maxValue itself is not labelled.
+    // 0xFFFFFFFF means the scheme's "AXIS" colour; a textHeight below 1 means the "SMALL" font's.
+    static void DrawAxis(CDC* dc, int horizontal, POINT from, POINT to, float minValue, float maxValue,
+                         int ticks, const char* title, COLORREF color, const RECT* clip, int integerLabels,
+                         int textHeight);
+    // A bar in first up to split (an x coordinate, or for a vertical bar a y coordinate from which
+    // first fills down to the bottom) and second beyond it, lit when the bar is at least 4 across.
+    static void Draw3DPercentBar(CDC* dc, const RECT* rect, int split, COLORREF first, COLORREF second,
+                                 int horizontal);
+    // Icon number icon (0-27) of the scheme's icon strips at (x, y), 19 units square times scale,
+    // in the dark-background variant when autoDark is set and the scheme's background is dark.
+    static void DrawWekIcons(CDC* dc, int icon, int x, int y, int scale, int autoDark);
+
     // --- Kept for the host: these draw nothing --------------------------------------------
     static void Draw3DProgress(CDC* dc, int, const RECT* rect, int, int);
     static void DrawDlgButton(CDC* dc, const RECT* rect, const char*, int);
@@ -71,6 +87,21 @@ public:
     void DrawButton(CDC* dc, CRect* rect, BUTTON_STATE state, int image, int transparent, int framed);
     // Fills rect with the state's button background; leaves the background colour set to it.
     void DrawButtonBackground(CDC* dc, CRect* rect, BUTTON_STATE state);
+    // A filled triangle pointing left (0), right (1), down (2), up (3) or to a corner (other) in
+    // the middle third of rect (made square unless keepShape), on background unless that is
+    // 0xFFFFFFFF.
+    void DrawArrowButton(CDC* dc, const RECT* rect, COLORREF arrowColor, COLORREF background, int direction,
+                         int keepShape);
+    // Mark number mark of the scheme's "KIV_MARK" strip in color, its 12-unit cell (times scale)
+    // placed 5 units (times scale) up and left of (x, y), framed with the frame pattern if asked.
+    // Without the strip it draws nothing and leaves the text colour black.
+    void DrawArrow(CDC* dc, int x, int y, int mark, COLORREF color, int framed, int scale, bool blackWhenPrinting);
+    // A price with its fraction underlined in place of the decimal point, and with signArrow a
+    // rise or fall mark in place of a leading sign. Aligned by the context's text alignment,
+    // centre placing it as right does. Text without a "." is drawn as it is.
+    void DrawUL(CDC* dc, int x, int y, UINT options, const RECT* clip, const char* text, int length, int* widths,
+                int signArrow);
+    void DrawUL(CDC* dc, int x, int y, const char* text, int signArrow);
 
 private:
     void FramePatternLine(CDC* dc, CBrush& brush, int left, int top, int right, int bottom);
