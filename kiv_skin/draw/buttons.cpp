@@ -19,7 +19,12 @@ void KivDraw::DrawButtonBackground(CDC* dc, CRect* rect, BUTTON_STATE state)
 void KivDraw::DrawButton(CDC* dc, CRect* rect, BUTTON_STATE state, int image, int transparent, int framed)
 {
     if (dc == nullptr) return;
-    if (!transparent) dc->FillSolidRect(rect, GetButtonBackgroundColor(state));
+    if (!transparent) {
+        // Filling a solid rectangle sets the background colour; the caller keeps its own.
+        COLORREF callerBack = dc->GetBkColor();
+        dc->FillSolidRect(rect, GetButtonBackgroundColor(state));
+        dc->SetBkColor(callerBack);
+    }
     CBitmap* strip = SchemeBitmap("KIV_TOOL");
     if (strip == nullptr) return;
     CMemoDC icons(dc, strip);
