@@ -1,0 +1,81 @@
+#include "demo/gallery.h"
+#include "demo/console.h"
+#include "demo/panel.h"
+#include "demo/picture.h"
+#include "demo/piece_sheet.h"
+#include "kiv_base/text.h"
+#include "kiv_skin/style/kiv_style_mgr.h"
+#include "kiv_skin/style/style_catalogue.h"
+#include <cstdio>
+#include <filesystem>
+#include <system_error>
+
+using kiv_skin::KivStyleMgr;
+
+namespace {
+
+bool Save(const Picture& picture, const std::string& folder, const CString& scheme, const char* kind)
+{
+    std::string path = folder + "\\" + static_cast<const char*>(scheme) + "_" + kind + ".png";
+    HRESULT hr = picture.SaveAsPng(kiv_base::text::AnsiToUtf(path));
+    if (FAILED(hr)) {
+        std::printf("  could not write %s (error 0x%08lX)\n", path.c_str(), static_cast<unsigned long>(hr));
+        return false;
+    }
+    std::printf("  %s\n", path.c_str());
+    return true;
+}
+
+bool RenderPanel(const CString& scheme, const std::string& folder)
+{
+    CSize size;
+    {
+        Picture probe(1, 1, 0);
+        size = QuotePanelSize(probe.dc());
+    }
+    Picture panel(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
+    DrawQuotePanel(panel.dc());
+    return Save(panel, folder, scheme, "panel");
+}
+
+// "The drawing kit in <scheme> (<its description>)", in UTF-8.
+std::string SheetTitle(const CString& scheme)
+{
+    std::string title = std::string("The drawing kit in ") + static_cast<const char*>(scheme);
+    CString name = scheme;
+    kiv_skin::StyleEntry entry;
+    if (kiv_skin::StyleCatalogue::Instance()->FindStyle(name, entry) && !entry.des.IsEmpty())
+        title += " (" + Gb2312ToUtf8(entry.des) + ")";
+    return title;
+}
+
+bool RenderSheet(const CString& scheme, const std::string& folder)
+{
+    CSize size = PieceSheetSize();
+    Picture sheet(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
+    DrawPieceSheet(sheet.dc(), SheetTitle(scheme).c_str());
+    return Save(sheet, folder, scheme, "pieces");
+}
+
+}  // namespace
+
+bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
+{
+    std::error_code error;
+    std::filesystem::create_directories(kiv_base::text::AnsiToUtf(folder), error);
+    if (!KivStyleMgr::GetInstance()->LoadStyle(scheme)) {
+        std::printf("  could not load the scheme %s\n", static_cast<const char*>(scheme));
+        return false;
+    }
+    bool panelSaved = RenderPanel(scheme, folder);
+    return RenderSheet(scheme, folder) && panelSaved;
+}
+
+bool RenderGallery(const std::string& folder)
+{
+    PrintHeading("Gallery");
+    bool allSaved = true;
+    for (const kiv_skin::StyleEntry& entry : kiv_skin::StyleCatalogue::Instance()->m_entries)
+        allSaved = RenderSchemeGallery(entry.name, folder) && allSaved;
+    return allSaved;
+}

@@ -1,0 +1,12 @@
+// The gallery: pictures of the drawing kit in every sample scheme, written as PNG files.
+#pragma once
+#include <afxwin.h>
+#include <string>
+
+// Writes <scheme>_panel.png (a mock quote panel) and <scheme>_pieces.png (every piece on its
+// own, named) for one scheme into folder, creating the folder if needed, and prints each path.
+// The style manager must be initialised. False when the scheme does not load or a file cannot
+// be written.
+bool RenderSchemeGallery(const CString& scheme, const std::string& folder);
+// The same for every scheme of the catalogue, in its order; false if any of them fails.
+bool RenderGallery(const std::string& folder);

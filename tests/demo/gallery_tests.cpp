@@ -1,0 +1,175 @@
+// The gallery of the dark scheme painted into a scratch folder: both files decode as PNG, the
+// panel's file holds exactly what the panel paints, and the scheme's colours are where the panel
+// and the sheet put them.
+#include "demo/gallery.h"
+#include "demo/panel.h"
+#include "demo/piece_sheet.h"
+#include "demo/png_writer.h"
+#include "kiv_skin/draw/plugin_title.h"
+#include "kiv_skin/style/kiv_style_mgr.h"
+#include "png_reader.h"
+#include "support/dib_canvas.h"
+#include "support/test_files.h"
+#include <gtest/gtest.h>
+#include <memory>
+
+using kiv_skin::KivStyleMgr;
+
+namespace {
+
+std::wstring Wide(const std::string& path)
+{
+    return std::wstring(path.begin(), path.end());  // the scratch folder's path is ASCII
+}
+
+COLORREF Scheme(const char* key)
+{
+    return KivStyleMgr::GetInstance()->GetColor(key);
+}
+
+int Count(const DecodedPng& png, COLORREF color)
+{
+    int n = 0;
+    for (int y = 0; y < png.height; ++y)
+        for (int x = 0; x < png.width; ++x) n += png.Color(x, y) == color ? 1 : 0;
+    return n;
+}
+
+int OpaquePixels(const DecodedPng& png)
+{
+    int n = 0;
+    for (int y = 0; y < png.height; ++y)
+        for (int x = 0; x < png.width; ++x) n += png.Alpha(x, y) == 255 ? 1 : 0;
+    return n;
+}
+
+}  // namespace
+
+class DarkGallery : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        s_folder = std::make_unique<ScratchDir>();
+        s_initialised = KivStyleMgr::GetInstance()->InitStyleMgr() == 1;
+        s_written = RenderSchemeGallery("dark", s_folder->dir());
+        s_panel = ReadPng(Wide(s_folder->Path("dark_panel.png")));
+        s_sheet = ReadPng(Wide(s_folder->Path("dark_pieces.png")));
+    }
+    static void TearDownTestSuite() { s_folder.reset(); }
+
+    void SetUp() override
+    {
+        ASSERT_TRUE(s_initialised);
+        ASSERT_TRUE(s_written);
+        ASSERT_EQ(S_OK, s_panel.result);
+        ASSERT_EQ(S_OK, s_sheet.result);
+    }
+
+    static std::unique_ptr<ScratchDir> s_folder;
+    static bool s_initialised, s_written;
+    static DecodedPng s_panel, s_sheet;
+};
+
+std::unique_ptr<ScratchDir> DarkGallery::s_folder;
+bool DarkGallery::s_initialised = false;
+bool DarkGallery::s_written = false;
+DecodedPng DarkGallery::s_panel;
+DecodedPng DarkGallery::s_sheet;
+
+TEST_F(DarkGallery, WritesOpaqueBgraPngFilesOfThePanelAndTheSheet)
+{
+    EXPECT_TRUE(s_panel.bgra);
+    EXPECT_TRUE(s_sheet.bgra);
+    EXPECT_EQ(s_panel.width * s_panel.height, OpaquePixels(s_panel));
+    EXPECT_EQ(s_sheet.width * s_sheet.height, OpaquePixels(s_sheet));
+}
+
+TEST_F(DarkGallery, PanelFileHoldsExactlyWhatThePanelPaints)
+{
+    DibCanvas probe(1, 1);
+    CSize size = QuotePanelSize(probe.dc());
+    ASSERT_EQ(size.cx, s_panel.width);
+    ASSERT_EQ(size.cy, s_panel.height);
+    DibCanvas canvas(size.cx, size.cy, RGB(1, 2, 3));
+    DrawQuotePanel(canvas.dc());
+    int differing = 0;
+    for (int y = 0; y < size.cy; ++y)
+        for (int x = 0; x < size.cx; ++x) differing += canvas.Pixel(x, y) != s_panel.Color(x, y) ? 1 : 0;
+    EXPECT_EQ(0, differing);
+}
+
+TEST_F(DarkGallery, PanelHasItsFrameTitleBandAndBackground)
+{
+    int right = s_panel.width - 1, bottom = s_panel.height - 1;
+    EXPECT_EQ(Scheme("PLUG_FRAME"), s_panel.Color(0, 0));
+    EXPECT_EQ(Scheme("PLUG_FRAME"), s_panel.Color(right, bottom));
+    EXPECT_EQ(Scheme("PLUG_FRAME"), s_panel.Color(right, bottom / 2));
+    EXPECT_EQ(Scheme("PLUG_TITLE_BGCOLOR"), s_panel.Color(2, 2));
+    EXPECT_EQ(Scheme("PLUG_TITLE_BGCOLOR"), s_panel.Color(right - 2, 2));
+    DibCanvas probe(1, 1);
+    int titleBottom = 1 + kiv_skin::PluginTitle().GetAreaHeight(probe.dc());
+    EXPECT_EQ(Scheme("PLUG_TITLE_BGCOLOR"), s_panel.Color(2, titleBottom - 1));
+    // Below the title, the padding inside the frame is background from top to bottom.
+    for (int y = titleBottom; y < bottom; ++y)
+        ASSERT_EQ(Scheme("PLUG_BGCOLOR"), s_panel.Color(kPanelPadding / 2, y)) << "row " << y;
+}
+
+TEST_F(DarkGallery, PanelShowsPricesButtonStatesAndTheSelection)
+{
+    EXPECT_GT(Count(s_panel, Scheme("UPTEXT")), 100);
+    EXPECT_GT(Count(s_panel, Scheme("DOWNTEXT")), 100);
+    EXPECT_GT(Count(s_panel, Scheme("PLUG_TIME_COLOR1")), 50);
+    // One button hovered and one pressed: a 22-unit face less its frame and its icon.
+    EXPECT_GT(Count(s_panel, Scheme("PLUG_BTN_BGCOLOR_HOVER")), 250);
+    EXPECT_GT(Count(s_panel, Scheme("PLUG_BTN_BGCOLOR_PRESSED")), 250);
+    // The selection frame around one row, 430 units wide.
+    EXPECT_GT(Count(s_panel, Scheme("PLUG_SELCOLOR")), 2 * 400);
+}
+
+TEST_F(DarkGallery, SheetHasItsSizeBackgroundAndNames)
+{
+    CSize size = PieceSheetSize();
+    EXPECT_EQ(size.cx, s_sheet.width);
+    EXPECT_EQ(size.cy, s_sheet.height);
+    EXPECT_EQ(Scheme("BACKGROUND"), s_sheet.Color(0, 0));
+    EXPECT_EQ(Scheme("BACKGROUND"), s_sheet.Color(size.cx - 1, size.cy - 1));
+    EXPECT_GT(Count(s_sheet, Scheme("PLUG_TITLE_TEXT")), 1000);  // the heading and every name
+    EXPECT_GT(Count(s_sheet, Scheme("PLUG_BTN_BGCOLOR_PRESSED")), 3 * 250);
+}
+
+TEST_F(DarkGallery, UnknownSchemeWritesNothing)
+{
+    ScratchDir folder;
+    EXPECT_FALSE(RenderSchemeGallery("no_such_scheme", folder.dir()));
+    EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_panel.png")));
+    EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_pieces.png")));
+}
+
+TEST_F(DarkGallery, FolderThatCannotBeMadeFails)
+{
+    ScratchDir folder;
+    WriteFileBytes(folder.Path("file"), "not a folder");
+    EXPECT_FALSE(RenderSchemeGallery("dark", folder.Path("file\\gallery")));
+}
+
+TEST(PngWriter, RefusesAnEmptyPicture)
+{
+    ScratchDir folder;
+    uint32_t pixel = 0xFF000000u;
+    EXPECT_EQ(E_INVALIDARG, WritePng(Wide(folder.Path("empty.png")), 0, 1, &pixel));
+    EXPECT_EQ(E_INVALIDARG, WritePng(Wide(folder.Path("empty.png")), 1, 1, nullptr));
+    EXPECT_FALSE(FileExists(folder.Path("empty.png")));
+}
+
+TEST(PngWriter, KeepsEveryChannelOfEveryPixel)
+{
+    ScratchDir folder;
+    const uint32_t pixels[] = {0xFF102030u, 0x80FFFFFFu, 0x00000000u, 0xFFABCDEFu, 0xFF000001u, 0x7F7F7F7Fu};
+    ASSERT_EQ(S_OK, WritePng(Wide(folder.Path("six.png")), 3, 2, pixels));
+    DecodedPng png = ReadPng(Wide(folder.Path("six.png")));
+    ASSERT_EQ(S_OK, png.result);
+    EXPECT_TRUE(png.bgra);
+    ASSERT_EQ(3, png.width);
+    ASSERT_EQ(2, png.height);
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(pixels[i], png.pixels[i]) << "pixel " << i;
+}
