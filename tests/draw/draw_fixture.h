@@ -50,3 +50,21 @@ public:
     DibCanvas canvas;
     DcStateCheck check;
 };
+
+namespace scheme {
+const COLORREF kAxis = 0x00A0A000;
+}  // namespace scheme
+
+// Whether two sheets hold the same pixels.
+bool SamePixels(const Sheet& a, const Sheet& b);
+
+// A font of the active scheme, selected into a DC for the length of a scope.
+class SchemeFontIn {
+public:
+    SchemeFontIn(CDC* dc, const char* key);
+    ~SchemeFontIn();
+
+private:
+    HDC m_hdc;
+    HGDIOBJ m_previous;
+};

@@ -31,6 +31,17 @@ void DrawEverything(CDC* dc)
     for (int state = 0; state < 3; ++state)
         draw.DrawButton(dc, &rect, static_cast<KivDraw::BUTTON_STATE>(state), 1, state == 1, 1);
     draw.DrawButtonBackground(dc, &rect, KivDraw::BUTTON_HOVER);
+    KivDraw::DrawAxis(dc, 1, {0, 20}, {40, 20}, 0, 10, 5, "x", kNoColor, &rect, 0, 0);
+    KivDraw::DrawAxis(dc, 0, {5, 35}, {5, 0}, 5, 5, 3, "y", colours[0], nullptr, 1, 12);
+    KivDraw::Draw3DPercentBar(dc, &rect, 20, colours[0], colours[1], 1);
+    KivDraw::Draw3DPercentBar(dc, &rect, 10, colours[0], colours[1], 0);
+    draw.DrawArrow(dc, 10, 10, 3, colours[1], 1, 1, false);
+    draw.DrawArrow(dc, 10, 10, 2, colours[1], 1, 3, false);
+    draw.DrawArrowButton(dc, &rect, colours[0], colours[1], 2, 0);
+    KivDraw::DrawWekIcons(dc, 4, 0, 0, 1, 1);
+    KivDraw::DrawWekIcons(dc, 4, 0, 0, 2, 0);
+    draw.DrawUL(dc, 40, 2, "-12.34", 1);
+    draw.DrawUL(dc, 40, 2, ETO_OPAQUE, &rect, "1688.00", 7, nullptr, 0);
     kiv_skin::PluginTitle title("\xE8\xA1\x8C\xE6\x83\x85");
     title.GetAreaHeight(dc);
     title.Draw(dc, rect);

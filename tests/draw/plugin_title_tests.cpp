@@ -30,14 +30,6 @@ void DrawByHand(Sheet& sheet, const CRect& band, const wchar_t* title)
     ::SelectObject(hdc, font);
 }
 
-bool SamePixels(const Sheet& a, const Sheet& b)
-{
-    for (int y = 0; y < a.canvas.height(); ++y)
-        for (int x = 0; x < a.canvas.width(); ++x)
-            if (a.At(x, y) != b.At(x, y)) return false;
-    return true;
-}
-
 }  // namespace
 
 using TestSchemeTitle = TestScheme;

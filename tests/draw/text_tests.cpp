@@ -46,13 +46,6 @@ public:
     {
         ::ExtTextOutW(dc()->m_hDC, x, area.top, ETO_CLIPPED, &area, text.c_str(), n, nullptr);
     }
-    bool SamePixels(const TextSheet& other) const
-    {
-        for (int y = 0; y < canvas.height(); ++y)
-            for (int x = 0; x < canvas.width(); ++x)
-                if (At(x, y) != other.At(x, y)) return false;
-        return true;
-    }
 
 private:
     HGDIOBJ m_previousFont;
@@ -89,7 +82,7 @@ TEST_F(TestSchemeText, TextThatFitsIsDrawnWholeFromTheLeft)
     EXPECT_EQ(-7, count) << "count is not written when the text fits";
     byHand.DrawByHand(area, area.left, text, static_cast<int>(text.size()));
     EXPECT_GT(sheet.Count(kTextInk, area), 20);
-    EXPECT_TRUE(sheet.SamePixels(byHand));
+    EXPECT_TRUE(SamePixels(sheet, byHand));
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 
@@ -105,7 +98,7 @@ TEST_F(TestSchemeText, RightAlignedContextDrawsFromTheRightEdge)
     byHand.DrawByHand(rect, 110, text, static_cast<int>(text.size()));
     EXPECT_GT(sheet.Count(kTextInk, {100, 0, 110, 20}), 0) << "ends at the right edge";
     EXPECT_EQ(0, sheet.Count(kTextInk, {0, 0, 50, 20}));
-    EXPECT_TRUE(sheet.SamePixels(byHand));
+    EXPECT_TRUE(SamePixels(sheet, byHand));
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 
@@ -122,7 +115,7 @@ TEST_F(TestSchemeText, OnlyExactlyRightAlignmentStartsAtTheRightEdge)
     byHand.DrawByHand(rect, 40, text, static_cast<int>(text.size()));
     EXPECT_GT(sheet.Count(kTextInk, {40, 0, 50, 20}), 0);
     EXPECT_EQ(0, sheet.Count(kTextInk, {80, 0, 120, 20}));
-    EXPECT_TRUE(sheet.SamePixels(byHand));
+    EXPECT_TRUE(SamePixels(sheet, byHand));
 }
 
 TEST_F(TestSchemeText, TextExactlyAsWideAsTheRoomIsWalked)
@@ -152,7 +145,7 @@ TEST_F(TestSchemeText, WalkMeasuresEachAsciiCharacterByTheCodeBeforeIt)
     EXPECT_GT(count, 4);
     EXPECT_EQ(sheet.Width(text.substr(0, count)), drawn);
     byHand.DrawByHand(rect, 0, text, count);
-    EXPECT_TRUE(sheet.SamePixels(byHand));
+    EXPECT_TRUE(SamePixels(sheet, byHand));
     EXPECT_EQ(0, sheet.Count(kTextInk, {3 * wide, 0, 200, 20})) << "clipped at the edge";
     EXPECT_TRUE(sheet.check.Unchanged());
 }
