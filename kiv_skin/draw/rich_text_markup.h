@@ -18,7 +18,7 @@ inline bool operator==(const MarkupRun& a, const MarkupRun& b)
     return a.name == b.name && a.value == b.value;
 }
 
-// Splits zero-terminated markup into its runs, in string order, in time linear in its length.
+// Splits zero-terminated markup (not null) into its runs, in string order, in time linear in its length.
 // There are no closing tags. A tag's body is split at its first "=" into name and value, both
 // kept byte for byte (no trimming, no change of case). An unterminated "<*" and everything after
 // it are dropped; a "*>" outside a tag is text. The scan is byte-wise: '<', '*', '>' and '='
