@@ -45,6 +45,15 @@ public:
     static int DrawPluginFrame(CDC* dc, const RECT* rect);
 
     // --- Text ------------------------------------------------------------------------------
+    // One line of markup (ANSI code page) in rect less margins: "<*name=value*>" tags switch
+    // colours ("c", "sc", "bk", "sysbk"), fonts ("sf", "f", "s", "b", "u", "it") or insert a
+    // scheme image ("si") from their place to the end; there are no closing tags. The context's
+    // colours, mode and font are the defaults tags return to, and are put back. rows divides
+    // rect for text runs holding line feeds; percent (0-100) mixes tag colours into the initial
+    // background. Exactly right or centre alignment places the whole line. Always 0.
+    static DWORD DrawRichText(CDC* dc, const RECT* rect, int rows, const char* text, CRect margins, UINT flags,
+                              int percent);
+    static DWORD DrawRichText(CDC* dc, const RECT* rect, const char* text, CRect margins, UINT flags, int percent);
     // Draws as much of text as fits in rect less margins (unless measureOnly) and answers the
     // width drawn; count receives the characters drawn when the text does not fit whole.
     static int TextOutLimitWidth(CDC* dc, const RECT* rect, const std::wstring& text, int& count,

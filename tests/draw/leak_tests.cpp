@@ -42,6 +42,8 @@ void DrawEverything(CDC* dc)
     KivDraw::DrawWekIcons(dc, 4, 0, 0, 2, 0);
     draw.DrawUL(dc, 40, 2, "-12.34", 1);
     draw.DrawUL(dc, 40, 2, ETO_OPAQUE, &rect, "1688.00", 7, nullptr, 0);
+    KivDraw::DrawRichText(dc, &rect, 2, "<*sc=UPTEXT*>600519<*b*><*it*><*u*>x<*f=SimSun*><*s=14*>\n1<*bk=FF*>y"
+                          "<*sysbk=PLUG_BGCOLOR*><*sf=SMALL*>z<*si=IMG_RISE*><*a href=q*>", CRect(1, 1, 1, 1), 0, 60);
     kiv_skin::PluginTitle title("\xE8\xA1\x8C\xE6\x83\x85");
     title.GetAreaHeight(dc);
     title.Draw(dc, rect);

@@ -1,0 +1,33 @@
+#include "kiv_skin/draw/rich_text_state.h"
+#include "kiv_skin/draw/kiv_draw.h"
+
+namespace kiv_skin {
+
+sDCStats::sDCStats(CDC* pDC)
+    : dc(pDC), textColor(pDC->GetTextColor()), bkColor(pDC->GetBkColor()), bkMode(pDC->GetBkMode()),
+      logFont(), font(new CFont)
+{
+    ::GetObjectA(::GetCurrentObject(pDC->m_hAttribDC, OBJ_FONT), sizeof(LOGFONTA), &logFont);
+}
+
+sDCStats::~sDCStats()
+{
+    if (oldFont) dc->SelectObject(oldFont);
+    dc->SetTextColor(textColor);
+    dc->SetBkColor(bkColor);
+    dc->SetBkMode(bkMode);
+    delete font;
+}
+
+COLORREF sDCStats::Mixed(COLORREF color) const
+{
+    return mixPercent == 100 ? color : KivDraw::MakeMixColor(dc, color, bkColor, mixPercent);
+}
+
+void sDCStats::Select(CFont* selected)
+{
+    CFont* previous = dc->SelectObject(selected);
+    if (oldFont == nullptr) oldFont = previous;
+}
+
+}  // namespace kiv_skin

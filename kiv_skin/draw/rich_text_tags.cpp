@@ -1,0 +1,221 @@
+#include "kiv_skin/draw/rich_text_tags.h"
+#include "kiv_base/text.h"
+#include "kiv_skin/draw/kiv_draw.h"
+#include "kiv_skin/draw/scheme.h"
+#include "kiv_skin/module.h"
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+namespace kiv_skin {
+namespace {
+
+// A value read as "%X" reads: the colour's COLORREF value, "0x" accepted.
+bool ReadHex(const std::string& value, COLORREF& color)
+{
+    unsigned int read = 0;
+    if (std::sscanf(value.c_str(), "%X", &read) != 1) return false;
+    color = read;
+    return true;
+}
+
+void SetInk(sDCStats& s, DrawFormatText& run, bool present, COLORREF color)
+{
+    run.width = 0;
+    s.dc->SetTextColor(present ? s.Mixed(color) : s.textColor);
+}
+
+// An empty or unreadable background tag returns to the initial mode with the initial *text*
+// colour as background: that is how panels have always looked with an opaque context.
+void SetBack(sDCStats& s, DrawFormatText& run, bool present, COLORREF color)
+{
+    run.width = 0;
+    if (present) {
+        s.dc->SetBkMode(OPAQUE);
+        s.dc->SetBkColor(s.Mixed(color));
+    } else {
+        s.dc->SetBkMode(s.bkMode);
+        s.dc->SetBkColor(s.textColor);
+    }
+}
+
+void Color(sDCStats& s, DrawFormatText& run)
+{
+    COLORREF color = 0;
+    bool read = !run.value.empty() && ReadHex(run.value, color);
+    SetInk(s, run, read, color);
+}
+
+void SchemeInk(sDCStats& s, DrawFormatText& run)
+{
+    SetInk(s, run, !run.value.empty(), run.value.empty() ? 0 : SchemeColor(run.value.c_str()));
+}
+
+void BackColor(sDCStats& s, DrawFormatText& run)
+{
+    COLORREF color = 0;
+    bool read = !run.value.empty() && ReadHex(run.value, color);
+    SetBack(s, run, read, color);
+}
+
+void SchemeBack(sDCStats& s, DrawFormatText& run)
+{
+    SetBack(s, run, !run.value.empty(), run.value.empty() ? 0 : SchemeColor(run.value.c_str()));
+}
+
+void SchemeFontTag(sDCStats& s, DrawFormatText& run)
+{
+    run.width = 0;
+    if (run.value.empty()) return;
+    if (CFont* font = SchemeFont(run.value.c_str())) s.Select(font);
+}
+
+// The five font tags change one field of the font now selected, so their effects add up.
+template <class Change> void ChangeFont(sDCStats& s, DrawFormatText& run, Change change)
+{
+    run.width = 0;
+    LOGFONTA font = {};
+    ::GetObjectA(::GetCurrentObject(s.dc->m_hAttribDC, OBJ_FONT), sizeof(font), &font);
+    change(font, run.value, s.logFont);
+    CFont made;
+    made.CreateFontIndirect(&font);
+    s.Select(&made);  // selected before the state's previous font is deleted
+    s.font->DeleteObject();
+    s.font->Attach(made.Detach());
+}
+
+// The value read as a whole number is non-zero (an empty value counts as on).
+bool SwitchedOn(const std::string& value) { return value.empty() || std::atoi(value.c_str()) != 0; }
+
+void Face(sDCStats& s, DrawFormatText& run)
+{
+    ChangeFont(s, run, [](LOGFONTA& f, const std::string& v, const LOGFONTA& initial) {
+        ::lstrcpynA(f.lfFaceName, v.empty() ? initial.lfFaceName : v.c_str(), LF_FACESIZE);
+    });
+}
+
+void Size(sDCStats& s, DrawFormatText& run)
+{
+    ChangeFont(s, run, [](LOGFONTA& f, const std::string& v, const LOGFONTA& initial) {
+        int height = std::atoi(v.c_str());
+        f.lfHeight = height >= 1 ? height : initial.lfHeight;
+    });
+}
+
+void Bold(sDCStats& s, DrawFormatText& run)
+{
+    ChangeFont(s, run, [](LOGFONTA& f, const std::string& v, const LOGFONTA& initial) {
+        f.lfWeight = SwitchedOn(v) ? FW_BOLD : initial.lfWeight;
+    });
+}
+
+void Underline(sDCStats& s, DrawFormatText& run)
+{
+    ChangeFont(s, run, [](LOGFONTA& f, const std::string& v, const LOGFONTA& initial) {
+        f.lfUnderline = SwitchedOn(v) ? 1 : initial.lfUnderline;
+    });
+}
+
+void Italic(sDCStats& s, DrawFormatText& run)
+{
+    ChangeFont(s, run, [](LOGFONTA& f, const std::string& v, const LOGFONTA& initial) {
+        f.lfItalic = SwitchedOn(v) ? 1 : initial.lfItalic;
+    });
+}
+
+std::vector<std::wstring> Lines(const std::wstring& text)
+{
+    std::vector<std::wstring> lines;
+    size_t start = 0;
+    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring::npos; start = feed + 1)
+        lines.push_back(text.substr(start, feed - start));
+    lines.push_back(text.substr(start));
+    return lines;
+}
+
+CSize WideExtent(CDC* dc, const std::wstring& text)
+{
+    SIZE size = {0, 0};
+    ::GetTextExtentPoint32W(dc->m_hAttribDC, text.c_str(), static_cast<int>(text.size()), &size);
+    return CSize(size);
+}
+
+// Text, line by line: the first line in the run's whole height, each further one a row lower.
+void Text(sDCStats& s, DrawFormatText& run)
+{
+    std::vector<std::wstring> lines = Lines(kiv_base::text::AnsiToUtf(run.value));
+    int rowHeight = s.rowHeight >= 0 ? s.rowHeight : WideExtent(s.dc, lines.front()).cy;
+    run.width = 0;
+    for (const std::wstring& line : lines) {
+        int width = WideExtent(s.dc, line).cx;
+        if (width > run.width) run.width = width;
+    }
+    if (!run.draw) return;
+    CRect area(run.rect);
+    for (const std::wstring& line : lines) {
+        int count = 0;
+        KivDraw::TextOutLimitWidth(s.dc, &area, line, count, CRect(0, 0, 0, 0), 0);
+        area.top += rowHeight;
+        area.bottom = area.top + rowHeight;
+    }
+    run.draw = 0;
+}
+
+const int kIconWidth = 16, kIconHeight = 17;
+
+// A 16 by 17 scheme image, placed down the run by the context's alignment: bottom or baseline
+// put it at the bottom, right or centre in the middle (the horizontal bits steer it).
+void Icon(sDCStats& s, DrawFormatText& run)
+{
+    if (run.value.empty()) {
+        run.width = 0;
+        return;
+    }
+    int letter = s.dc->GetTextExtent("A", 1).cy;
+    run.width = letter <= kIconWidth ? kIconWidth : letter;
+    if (!run.draw) return;
+    int height = run.rect.bottom - run.rect.top, offset = 0;
+    UINT align = s.dc->GetTextAlign();
+    if (run.width < height) {
+        if (align & (TA_BOTTOM | TA_BASELINE))
+            offset = height - run.width;
+        else if (align & TA_CENTER)
+            offset = (height - run.width) / 2;
+    }
+    CBitmap* image = SchemeBitmap(run.value.c_str());
+    CDC memory;
+    if (image && memory.CreateCompatibleDC(s.dc)) {
+        CBitmap* previous = memory.SelectObject(image);
+        ::TransparentBlt(s.dc->m_hDC, run.rect.left + 1, run.rect.top + offset, kIconWidth, kIconHeight, memory,
+                         0, 0, kIconWidth, kIconHeight, SchemeTransparentColor("IDB_IMAGES"));
+        memory.SelectObject(previous);
+    }
+    run.draw = 0;
+}
+
+void Link(sDCStats&, DrawFormatText&) {}
+
+std::map<std::string, RichTextTag>* MakeTags()
+{
+    return new std::map<std::string, RichTextTag>{
+        {"color", Color},       {"c", Color},          {"syscolor", SchemeInk},   {"sc", SchemeInk},
+        {"bkcolor", BackColor}, {"bk", BackColor},     {"sysbkcolor", SchemeBack}, {"sysbk", SchemeBack},
+        {"sysfont", SchemeFontTag}, {"sf", SchemeFontTag}, {"sysicon", Icon},      {"si", Icon},
+        {"font", Face},         {"f", Face},           {"size", Size},            {"s", Size},
+        {"bold", Bold},         {"b", Bold},           {"underline", Underline},  {"u", Underline},
+        {"italic", Italic},     {"it", Italic},        {"text", Text},            {"t", Text},
+        {"a", Link},            {"a href", Link}};
+}
+
+std::atomic<std::map<std::string, RichTextTag>*> g_tags{nullptr};
+
+void DestroyTags() { delete g_tags.exchange(nullptr); }
+
+}  // namespace
+
+const std::map<std::string, RichTextTag>& RichTextTags()
+{
+    return *CreateOnce(g_tags, RichTextTagLock(), MakeTags, DestroyTags);
+}
+
+}  // namespace kiv_skin
