@@ -77,6 +77,7 @@ const char* Describe(Stop stop)
     case Stop::BadKeyLength: return "key length below 1 or past the end of the file";
     case Stop::ValueLengthCut: return "translation length cut short by the end of the file";
     case Stop::BadValueLength: return "translation length negative or past the end of the file";
+    case Stop::TooLarge: return "file of 4 GiB or more";
     }
     return "unknown";
 }

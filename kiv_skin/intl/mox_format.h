@@ -24,6 +24,7 @@ enum class Stop {
     BadKeyLength,      // key length below 1 or beyond the end of the file
     ValueLengthCut,    // fewer than 4 bytes left after a key
     BadValueLength,    // translation length negative or beyond the end of the file
+    TooLarge,          // 4 GiB or more: beyond what an in-place index addresses
 };
 
 struct WalkResult {
