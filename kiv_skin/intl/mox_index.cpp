@@ -22,6 +22,17 @@ uint64_t Head(const char* text)
     return head;
 }
 
+// The same from a text with 8 readable bytes from its start, a word at a time.
+uint64_t HeadOfWord(const char* text)
+{
+    uint64_t word;
+    std::memcpy(&word, text, sizeof(word));
+    // The lowest marked byte is the first zero byte in memory order (little-endian words).
+    uint64_t zeros = (word - 0x0101010101010101ull) & ~word & 0x8080808080808080ull;
+    if (zeros != 0) word &= (uint64_t(1) << (__builtin_ctzll(zeros) & ~7)) - 1;
+    return __builtin_bswap64(word);
+}
+
 // A text that ends within its head leaves a zero in the head's last byte.
 bool EndsInHead(uint64_t head) { return (head & 0xFF) == 0; }
 
@@ -34,6 +45,27 @@ int CompareText(const char* a, const char* b)
 }
 
 }  // namespace
+
+// Stable radix sort by head, a byte at a time from the lowest, skipping bytes all heads share.
+void Index::SortByHead(std::vector<Item>& items)
+{
+    const size_t kDigits = sizeof(uint64_t);
+    std::vector<size_t> starts(kDigits * 256);
+    for (const Item& item : items)
+        for (size_t d = 0; d < kDigits; ++d) ++starts[d * 256 + (item.head >> (8 * d) & 0xFF)];
+    std::vector<Item> spare(items.size());
+    for (size_t d = 0; d < kDigits; ++d) {
+        size_t* start = &starts[d * 256];
+        if (start[items[0].head >> (8 * d) & 0xFF] == items.size()) continue;
+        for (size_t digit = 0, offset = 0; digit < 256; ++digit) {
+            size_t n = start[digit];
+            start[digit] = offset;
+            offset += n;
+        }
+        for (const Item& item : items) spare[start[item.head >> (8 * d) & 0xFF]++] = item;
+        items.swap(spare);
+    }
+}
 
 WalkResult Index::Load(std::vector<char>&& file)
 {
@@ -55,8 +87,7 @@ WalkResult Index::Load(std::vector<char>&& file)
     else if (pendingEnd) *pendingEnd = '\0';
     if (m_entries.empty()) return result;
     FindCommonPrefix();
-    size_t outOfOrder = IndexInFileOrder();
-    if (outOfOrder < m_entries.size()) SortFrom(outOfOrder);
+    if (!IndexInFileOrder()) Sort();
     return result;
 }
 
@@ -119,9 +150,11 @@ int Index::Compare(size_t i, uint64_t head, const char* rest) const
 void Index::FindCommonPrefix()
 {
     const char* first = KeyAt(0);
+    const char* end = m_bytes.data() + m_bytes.size();
     size_t length = std::strlen(first);
     for (size_t i = 1; i < m_entries.size() && length > 0; ++i) {
         const char* key = KeyAt(i);
+        if (key + length <= end && std::memcmp(key, first, length) == 0) continue;
         size_t same = 0;
         while (same < length && key[same] == first[same]) ++same;
         length = same;
@@ -129,11 +162,15 @@ void Index::FindCommonPrefix()
     m_prefixLength = length;
 }
 
-size_t Index::IndexInFileOrder()
+bool Index::IndexInFileOrder()
 {
     size_t count = m_entries.size();
     m_heads.resize(count);
-    for (size_t i = 0; i < count; ++i) m_heads[i] = Head(KeyAt(i) + m_prefixLength);
+    const char* wordsEnd = m_bytes.data() + m_bytes.size() - sizeof(uint64_t);
+    for (size_t i = 0; i < count; ++i) {
+        const char* rest = KeyAt(i) + m_prefixLength;
+        m_heads[i] = rest <= wordsEnd ? HeadOfWord(rest) : Head(rest);
+    }
     size_t kept = 1;
     for (size_t i = 1; i < count; ++i) {
         int order = Compare(kept - 1, m_heads[i], KeyAt(i) + m_prefixLength);
@@ -142,7 +179,7 @@ size_t Index::IndexInFileOrder()
             std::copy(m_entries.begin() + i, m_entries.end(), m_entries.begin() + kept);
             m_heads.resize(kept + count - i);
             m_entries.resize(kept + count - i);
-            return kept;
+            return false;
         }
         if (order == 0) {
             m_entries[kept - 1].value = m_entries[i].value;
@@ -153,34 +190,30 @@ size_t Index::IndexInFileOrder()
     }
     m_heads.resize(kept);
     m_entries.resize(kept);
-    return kept;
+    return true;
 }
 
 // A stable sort keeps equal keys in file order, so the last of each run is the record that wins.
-void Index::SortFrom(size_t outOfOrder)
+void Index::Sort()
 {
     m_neededSort = true;
-    struct Item {
-        uint64_t head;
-        Entry entry;
-    };
     std::vector<Item> items(m_entries.size());
     for (size_t i = 0; i < items.size(); ++i) items[i] = {m_heads[i], m_entries[i]};
+    SortByHead(items);
     const char* base = m_bytes.data();
     size_t tail = m_prefixLength + kHeadSize;
-    auto less = [base, tail](const Item& a, const Item& b) {
-        if (a.head != b.head) return a.head < b.head;
-        return !EndsInHead(a.head) && CompareText(base + a.entry.key + tail, base + b.entry.key + tail) < 0;
+    auto byTail = [base, tail](const Item& a, const Item& b) {
+        return CompareText(base + a.entry.key + tail, base + b.entry.key + tail) < 0;
     };
-    // The entries before the first out of order are ascending already.
-    std::stable_sort(items.begin() + outOfOrder, items.end(), less);
-    std::inplace_merge(items.begin(), items.begin() + outOfOrder, items.end(), less);
     size_t kept = 0;
-    for (size_t i = 0; i < items.size(); ++i) {
-        if (kept > 0 && !less(items[kept - 1], items[i])) {
-            items[kept - 1].entry.value = items[i].entry.value;
-        } else {
-            items[kept++] = items[i];
+    for (size_t begin = 0, end; begin < items.size(); begin = end) {
+        for (end = begin + 1; end < items.size() && items[end].head == items[begin].head;) ++end;
+        // Keys longer than their head that share it are ordered by the rest.
+        if (end - begin > 1 && !EndsInHead(items[begin].head)) std::stable_sort(items.begin() + begin, items.begin() + end, byTail);
+        for (size_t i = begin; i < end; ++i) {
+            bool same = i > begin && (EndsInHead(items[i].head) || !byTail(items[kept - 1], items[i]));
+            if (same) items[kept - 1].entry.value = items[i].entry.value;
+            else items[kept++] = items[i];
         }
     }
     m_heads.resize(kept);

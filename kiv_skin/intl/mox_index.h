@@ -41,10 +41,16 @@ private:
     // Orders entry i against a key given by its head and its text after the common prefix.
     int Compare(size_t i, uint64_t head, const char* rest) const;
     void FindCommonPrefix();
-    // Keeps the file's order when it is ascending; answers the first entry out of order, or the
-    // count when there is none. The later of two equal neighbours gives the translation.
-    size_t IndexInFileOrder();
-    void SortFrom(size_t outOfOrder);
+    // Keeps the file's order when it is ascending, the later of two equal neighbours giving the
+    // translation; false (with the entries still in file order) at the first key out of order.
+    bool IndexInFileOrder();
+    void Sort();
+
+    struct Item {
+        uint64_t head;
+        Entry entry;
+    };
+    static void SortByHead(std::vector<Item>& items);
 
     std::vector<char> m_bytes;
     std::vector<uint64_t> m_heads;  // the 8 key bytes after the common prefix, big-endian
