@@ -36,6 +36,20 @@ uint64_t HeadOfWord(const char* text)
 // A text that ends within its head leaves a zero in the head's last byte.
 bool EndsInHead(uint64_t head) { return (head & 0xFF) == 0; }
 
+// How many of the first length bytes of key equal those of first, which holds no zero byte among
+// them; a word at a time while key's words end inside the buffer.
+size_t SharedLength(const char* key, const char* first, size_t length, const char* wordsEnd)
+{
+    size_t same = 0;
+    for (uint64_t a, b; same + sizeof(a) <= length && key + same <= wordsEnd; same += sizeof(a)) {
+        std::memcpy(&a, key + same, sizeof(a));
+        std::memcpy(&b, first + same, sizeof(b));
+        if (a != b) break;
+    }
+    while (same < length && key[same] == first[same]) ++same;
+    return same;
+}
+
 int CompareText(const char* a, const char* b)
 {
     const unsigned char* x = reinterpret_cast<const unsigned char*>(a);
@@ -75,18 +89,23 @@ WalkResult Index::Load(std::vector<char>&& file)
     char* base = m_bytes.data();
     // A translation's end is the next record's key length: terminated once that has been read.
     char* pendingEnd = nullptr;
+    // Keys in any order share the prefix that the first shares with every other.
+    const char* first = nullptr;
+    const char* wordsEnd = base + m_bytes.size() - std::min(m_bytes.size(), sizeof(uint64_t));
     m_entries.reserve(m_bytes.size() / 32);
-    WalkResult result = Walk(base, m_bytes.size(), [&](const char* key, size_t keySize, const char* value, size_t valueSize) {
+    WalkResult result = WalkRecords(base, m_bytes.size(), [&](const char* key, size_t keySize, const char* value, size_t valueSize) {
         if (pendingEnd) *pendingEnd = '\0';
         base[key - base + keySize] = '\0';  // over the translation length, already read
         pendingEnd = base + (value - base) + valueSize;
         // A key cut to nothing can never be asked for.
-        if (*key != '\0') m_entries.push_back({uint32_t(key - base), uint32_t(value - base)});
+        if (*key == '\0') return;
+        m_prefixLength = first ? SharedLength(key, first, m_prefixLength, wordsEnd) : std::strlen(key);
+        if (!first) first = key;
+        m_entries.push_back({uint32_t(key - base), uint32_t(value - base)});
     });
     if (pendingEnd == base + m_bytes.size()) m_bytes.push_back('\0');
     else if (pendingEnd) *pendingEnd = '\0';
     if (m_entries.empty()) return result;
-    FindCommonPrefix();
     if (!IndexInFileOrder()) Sort();
     return result;
 }
@@ -144,22 +163,6 @@ int Index::Compare(size_t i, uint64_t head, const char* rest) const
     if (m_heads[i] != head) return m_heads[i] < head ? -1 : 1;
     if (EndsInHead(head)) return 0;
     return CompareText(KeyAt(i) + m_prefixLength + kHeadSize, rest + kHeadSize);
-}
-
-// Keys in any order share the prefix that the first shares with every other.
-void Index::FindCommonPrefix()
-{
-    const char* first = KeyAt(0);
-    const char* end = m_bytes.data() + m_bytes.size();
-    size_t length = std::strlen(first);
-    for (size_t i = 1; i < m_entries.size() && length > 0; ++i) {
-        const char* key = KeyAt(i);
-        if (key + length <= end && std::memcmp(key, first, length) == 0) continue;
-        size_t same = 0;
-        while (same < length && key[same] == first[same]) ++same;
-        length = same;
-    }
-    m_prefixLength = length;
 }
 
 bool Index::IndexInFileOrder()

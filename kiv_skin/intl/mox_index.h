@@ -40,7 +40,6 @@ private:
     const char* KeyAt(size_t i) const { return m_bytes.data() + m_entries[i].key; }
     // Orders entry i against a key given by its head and its text after the common prefix.
     int Compare(size_t i, uint64_t head, const char* rest) const;
-    void FindCommonPrefix();
     // Keeps the file's order when it is ascending, the later of two equal neighbours giving the
     // translation; false (with the entries still in file order) at the first key out of order.
     bool IndexInFileOrder();
