@@ -84,7 +84,7 @@ void Index::SortByHead(std::vector<Item>& items)
 WalkResult Index::Load(std::vector<char>&& file)
 {
     Clear();
-    if (file.size() >= UINT32_MAX) return {Stop::TooLarge, 0, 0};
+    if (file.size() > UINT32_MAX) return {Stop::TooLarge, 0, 0};
     m_bytes = std::move(file);
     char* base = m_bytes.data();
     // A translation's end is the next record's key length: terminated once that has been read.
