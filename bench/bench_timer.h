@@ -1,9 +1,28 @@
-// Timing for benchmark programs: the median of repeated runs, so that a ratio of two medians
-// measured in the same run compares like with like on a noisy machine.
+// Timing for benchmark programs: medians of repeated runs, and ratios taken run by run between a
+// subject and its baseline measured alternately in the same run, so that both see the same
+// machine. The spread of the per-run ratios states the machine's noise.
 #pragma once
 #include <algorithm>
 #include <chrono>
 #include <vector>
+
+// Wall time, in microseconds, of one call of work averaged over calls calls.
+template <class Work>
+double MicrosecondsPerCall(int calls, Work& work)
+{
+    auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < calls; ++i) work(i);
+    std::chrono::duration<double, std::micro> elapsed = std::chrono::steady_clock::now() - start;
+    return elapsed.count() / calls;
+}
+
+// The value at fraction q (0 to 1) of the sorted values.
+inline double Quantile(std::vector<double> values, double q)
+{
+    size_t at = size_t(q * double(values.size() - 1) + 0.5);
+    std::nth_element(values.begin(), values.begin() + at, values.end());
+    return values[at];
+}
 
 // Median wall time, in microseconds, of one call of work over runs repetitions of
 // callsPerRun calls each.
@@ -11,12 +30,33 @@ template <class Work>
 double MedianMicroseconds(int runs, int callsPerRun, Work work)
 {
     std::vector<double> perCall;
+    for (int r = 0; r < runs; ++r) perCall.push_back(MicrosecondsPerCall(callsPerRun, work));
+    return Quantile(perCall, 0.5);
+}
+
+struct Comparison {
+    double subject = 0, baseline = 0;  // median microseconds per call
+    double ratio = 0;                  // median of the per-run ratios subject / baseline
+    double ratioLow = 0, ratioHigh = 0;  // their 10th and 90th percentiles
+};
+
+// Runs subject and baseline alternately, callsPerRun calls each per run, in turns.
+template <class Subject, class Baseline>
+Comparison Compare(int runs, int callsPerRun, Subject subject, Baseline baseline)
+{
+    std::vector<double> subjects, baselines, ratios;
     for (int r = 0; r < runs; ++r) {
-        auto start = std::chrono::steady_clock::now();
-        for (int i = 0; i < callsPerRun; ++i) work(i);
-        std::chrono::duration<double, std::micro> elapsed = std::chrono::steady_clock::now() - start;
-        perCall.push_back(elapsed.count() / callsPerRun);
+        // Each goes first in every other run, so that neither gains from what the other left.
+        if (r % 2 == 0) baselines.push_back(MicrosecondsPerCall(callsPerRun, baseline));
+        subjects.push_back(MicrosecondsPerCall(callsPerRun, subject));
+        if (r % 2 != 0) baselines.push_back(MicrosecondsPerCall(callsPerRun, baseline));
+        ratios.push_back(subjects.back() / baselines.back());
     }
-    std::nth_element(perCall.begin(), perCall.begin() + runs / 2, perCall.end());
-    return perCall[runs / 2];
+    Comparison c;
+    c.subject = Quantile(subjects, 0.5);
+    c.baseline = Quantile(baselines, 0.5);
+    c.ratio = Quantile(ratios, 0.5);
+    c.ratioLow = Quantile(ratios, 0.1);
+    c.ratioHigh = Quantile(ratios, 0.9);
+    return c;
 }

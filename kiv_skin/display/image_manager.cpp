@@ -6,7 +6,7 @@
 #include <tinyxml.h>
 
 // One named image. A strip's own entry owns the image list; its cells share it and own a bitmap
-// each; a stand-alone image owns its bitmap.
+// each, cut from the list when first asked for; a stand-alone image owns its bitmap.
 struct ImageEntry {
     CString name;
     CString file;
@@ -14,6 +14,7 @@ struct ImageEntry {
     CBitmap* bitmap;
     int index;  // kStripIndex, the cell's position in its strip, or kStandAloneIndex
     COLORREF transparentColor;
+    SIZE cellSize;  // of a cell, for cutting it
 };
 
 namespace {
@@ -43,8 +44,9 @@ CString ExeDirectory()
 
 // Cell position of a strip as a bitmap of its own: drawn on white into a screen-compatible
 // bitmap.
-CBitmap* CutCell(HIMAGELIST list, int position, int width, int height)
+CBitmap* CutCell(HIMAGELIST list, int position, SIZE size)
 {
+    int width = size.cx, height = size.cy;
     CClientDC screen(nullptr);
     CBitmap* cell = new CBitmap;
     cell->CreateCompatibleBitmap(&screen, width, height);
@@ -55,6 +57,11 @@ CBitmap* CutCell(HIMAGELIST list, int position, int width, int height)
     ::ImageList_Draw(list, position, memory, 0, 0, ILD_NORMAL);
     memory.SelectObject(previous);
     memory.DeleteDC();
+    // The list's own bitmaps stay selected into its contexts, so this does not free them.
+    IMAGEINFO info = {};
+    ::ImageList_GetImageInfo(list, position, &info);
+    ::DeleteObject(info.hbmImage);
+    ::DeleteObject(info.hbmMask);
     return cell;
 }
 
@@ -95,10 +102,13 @@ int ImageManager::loadImageConfig(const CString& path)
     return 1;
 }
 
+// A cell is cut on its first request and then kept, like every bitmap, until the next load.
 const CBitmap* ImageManager::getBitmap(const CString& key) const
 {
-    const ImageEntry* entry = _findEntry(key);
-    return entry ? entry->bitmap : nullptr;
+    ImageEntry* entry = _findEntry(key);
+    if (!entry) return nullptr;
+    if (!entry->bitmap && entry->index >= 0) entry->bitmap = CutCell(*entry->imageList, entry->index, entry->cellSize);
+    return entry->bitmap;
 }
 
 const CImageList* ImageManager::getImageList(const CString& key) const
@@ -134,10 +144,9 @@ void ImageManager::_getNode(TiXmlElement* root)
             int width = 0, height = 0;
             _getPosSize(e, &width, &height);
             if (width < 1 || height < 1) continue;
-            HBITMAP probe = LoadBitmapFile(file);
-            if (!probe) continue;
-            ::DeleteObject(probe);
-            _addListChildrenToMap(file, GetColorFromString(e->Attribute("mask")), e, width, height);
+            HBITMAP strip = LoadBitmapFile(file);
+            if (!strip) continue;
+            _addListChildrenToMap(file, strip, GetColorFromString(e->Attribute("mask")), e, width, height);
         }
     }
 }
@@ -148,50 +157,42 @@ void ImageManager::_addImageToMap(const CString& file, TiXmlElement* element)
     if (!handle) return;
     CBitmap* bitmap = new CBitmap;
     bitmap->Attach(handle);
-    ImageEntry* entry = new ImageEntry{element->Attribute("name"), file, nullptr, bitmap,
-                                       kStandAloneIndex, GetColorFromString(element->Attribute("mask"))};
+    ImageEntry* entry = new ImageEntry{element->Attribute("name"), file, nullptr, bitmap, kStandAloneIndex,
+                                       GetColorFromString(element->Attribute("mask")), SIZE{}};
     if (!_insertEntry(entry)) {
         delete bitmap;
         delete entry;
     }
 }
 
-int ImageManager::_addListChildrenToMap(const CString& file, DWORD mask, TiXmlElement* element,
+int ImageManager::_addListChildrenToMap(const CString& file, HBITMAP strip, DWORD mask, TiXmlElement* element,
                                         int width, int height)
 {
     CImageList* list = new CImageList;
-    _getImage(file, element, list);
-    ImageEntry* strip = new ImageEntry{element->Attribute("name"), file, list, nullptr, kStripIndex, mask};
-    if (!_insertEntry(strip)) {
+    _getImage(strip, element, list);
+    ImageEntry* own = new ImageEntry{element->Attribute("name"), file, list, nullptr, kStripIndex, mask, SIZE{}};
+    if (!_insertEntry(own)) {
         delete list;
-        delete strip;
+        delete own;
         return 0;
     }
     int position = 0;
     for (TiXmlElement* child = element->FirstChildElement(); child; child = child->NextSiblingElement(), ++position) {
         if (std::strcmp(child->Value(), "image") != 0) continue;
-        IMAGEINFO info = {};
-        ::ImageList_GetImageInfo(*list, position, &info);
-        CBitmap* cell = CutCell(*list, position, width, height);
         CString cellMask = child->Attribute("mask");
-        ImageEntry* entry = new ImageEntry{child->Attribute("name"), file, list, cell, position,
-                                           cellMask.IsEmpty() ? mask : GetColorFromString(cellMask)};
-        if (!_insertEntry(entry)) {
-            delete cell;
-            delete entry;
-        }
-        // The list's own bitmaps stay selected into its contexts, so this does not free them.
-        ::DeleteObject(info.hbmImage);
-        ::DeleteObject(info.hbmMask);
+        ImageEntry* entry = new ImageEntry{child->Attribute("name"), file, list, nullptr, position,
+                                           cellMask.IsEmpty() ? mask : GetColorFromString(cellMask),
+                                           SIZE{width, height}};
+        if (!_insertEntry(entry)) delete entry;
     }
     return 1;
 }
 
-void ImageManager::_getImage(const CString& file, TiXmlElement* element, CImageList* list)
+// Cuts the strip into a new list of cells of the element's size; the strip is freed.
+void ImageManager::_getImage(HBITMAP strip, TiXmlElement* element, CImageList* list)
 {
     int width = 0, height = 0;
     _getPosSize(element, &width, &height);
-    HBITMAP strip = LoadBitmapFile(file);
     list->Create(width, height, ILC_COLOR, 4, 4);
     ::ImageList_AddMasked(*list, strip, kStripMaskColor);
     ::DeleteObject(strip);
@@ -208,7 +209,7 @@ bool ImageManager::_insertEntry(ImageEntry* entry)
     return m_mapImages.emplace(entry->name, entry).second;
 }
 
-const ImageEntry* ImageManager::_findEntry(const CString& key) const
+ImageEntry* ImageManager::_findEntry(const CString& key) const
 {
     auto found = m_mapImages.find(key);
     return found == m_mapImages.end() ? nullptr : found->second;

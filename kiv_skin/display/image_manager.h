@@ -32,6 +32,7 @@ public:
     // file cannot be parsed.
     int loadImageConfig(const CString& path);
     // The bitmap of a stand-alone image or a strip's cell; null for a strip and unknown keys.
+    // A cell's bitmap is made on its first request; every bitmap stays until the next load.
     const CBitmap* getBitmap(const CString& key) const;
     // The image list of a strip; null for everything else.
     const CImageList* getImageList(const CString& key) const;
@@ -42,11 +43,12 @@ private:
     void _initData();
     void _getNode(TiXmlElement* root);
     void _addImageToMap(const CString& file, TiXmlElement* element);
-    int _addListChildrenToMap(const CString& file, DWORD mask, TiXmlElement* element, int width, int height);
-    void _getImage(const CString& file, TiXmlElement* element, CImageList* list);
+    int _addListChildrenToMap(const CString& file, HBITMAP strip, DWORD mask, TiXmlElement* element, int width,
+                              int height);
+    void _getImage(HBITMAP strip, TiXmlElement* element, CImageList* list);
     void _getPosSize(TiXmlElement* element, int* width, int* height);
     bool _insertEntry(ImageEntry* entry);
-    const ImageEntry* _findEntry(const CString& key) const;
+    ImageEntry* _findEntry(const CString& key) const;
     static DWORD GetColorFromString(const CString& text);
 
     std::map<CString, ImageEntry*> m_mapImages;

@@ -1,18 +1,20 @@
 #include "kiv_skin/intl/kiv_intl.h"
 #include "kiv_base/file_helpers.h"
 #include "kiv_skin/intl/languages.h"
-#include "kiv_skin/intl/mox_format.h"
+#include "kiv_skin/intl/mox_index.h"
 #include <windows.h>
 #include <cstring>
+#include <utility>
 #include <vector>
 
 namespace kiv_skin {
 namespace {
 
 // The process-wide catalogue, shared by every package.
-mox::Catalogue g_catalogue;
+mox::Index g_catalogue;
 
 // The whole file, or false if it is missing, shorter than the smallest catalogue or unreadable.
+// One byte more is reserved for the catalogue's terminator after the last translation.
 bool ReadWholeFile(const std::string& path, std::vector<char>& bytes)
 {
     if (!kiv_base::FileHelper::IsFileExist(path)) return false;
@@ -24,6 +26,7 @@ bool ReadWholeFile(const std::string& path, std::vector<char>& bytes)
               length.QuadPart <= LONGLONG(MAXDWORD);
     DWORD read = 0;
     if (ok) {
+        bytes.reserve(size_t(length.QuadPart) + 1);
         bytes.resize(size_t(length.QuadPart));
         ok = ReadFile(file, bytes.data(), DWORD(bytes.size()), &read, nullptr) && read == bytes.size();
     }
@@ -34,15 +37,16 @@ bool ReadWholeFile(const std::string& path, std::vector<char>& bytes)
 // Empties the catalogue, then loads the language's file of the package; answers the language.
 int LoadCatalogue(const std::string& directory, int lang, const char* package)
 {
-    g_catalogue.clear();
+    g_catalogue.Clear();
     int language = languages::Choose(lang, GetACP());
     std::string path = directory + "\\" + languages::DirName(language) + "\\LC_MESSAGES\\" +
                        (package ? package : "") + ".mox";
     std::vector<char> bytes;
     try {
-        if (ReadWholeFile(path, bytes)) mox::Load(bytes.data(), bytes.size(), g_catalogue);
+        if (ReadWholeFile(path, bytes)) g_catalogue.Load(std::move(bytes));
     } catch (const std::exception&) {
-        // Running out of memory ends the load quietly; records already stored stay.
+        // Running out of memory ends the load quietly, with nothing half indexed.
+        g_catalogue.Clear();
     }
     return language;
 }
@@ -72,8 +76,8 @@ KivIntl::LanguageName KivIntl::GetPackageLanguage() { return m_nPackageLanguage;
 const char* KivIntl::GetText(const char* key)
 {
     if (key == nullptr || *key == '\0') return "";
-    auto found = g_catalogue.find(key);
-    return found == g_catalogue.end() ? key : found->second.c_str();
+    const char* translation = g_catalogue.Find(key);
+    return translation ? translation : key;
 }
 
 const char* KivIntl::RemovePrefix(const char* key, char separator)

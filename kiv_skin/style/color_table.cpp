@@ -104,10 +104,15 @@ CString FormatColor(COLORREF color)
 
 int LoadColors(ColorTable& table, const CString& path)
 {
-    table.entries.clear();
     TiXmlDocument doc;
-    if (!doc.LoadFile(path)) return 0;
-    TiXmlElement* colors = FindSection(doc, "colors");
+    return ReadColors(table, doc.LoadFile(path) ? &doc : nullptr);
+}
+
+int ReadColors(ColorTable& table, TiXmlDocument* doc)
+{
+    table.entries.clear();
+    if (!doc) return 0;
+    TiXmlElement* colors = FindSection(*doc, "colors");
     TiXmlElement* first = colors ? colors->FirstChildElement() : nullptr;
     if (!first || std::strcmp(first->Value(), "color") != 0) return 1;
     for (TiXmlElement* e = first; e; e = e->NextSiblingElement("color")) {

@@ -111,7 +111,11 @@ FontTable::~FontTable() { DeleteFonts(*this); }
 bool LoadFonts(const CString& path, FontTable& table)
 {
     TiXmlDocument doc;
-    if (!doc.LoadFile(path)) return false;
+    return doc.LoadFile(path) && ReadFonts(doc, table);
+}
+
+bool ReadFonts(TiXmlDocument& doc, FontTable& table)
+{
     DeleteFonts(table);
     TiXmlElement* fonts = FindSection(doc, "fonts");
     if (!fonts) return false;

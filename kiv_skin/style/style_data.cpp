@@ -1,11 +1,15 @@
 #include "kiv_skin/style/style_data.h"
+#include "kiv_skin/style/scheme_file.h"
 
 namespace kiv_skin {
 
+// The colour/font file is parsed once for both its halves.
 int LoadStyleData(StyleData& data, const StyleEntry& entry)
 {
-    if (!LoadColors(data.colors, entry.colorfont)) return 0;
-    if (!LoadFonts(entry.colorfont, data.fonts)) return 0;
+    TiXmlDocument colorFont;
+    TiXmlDocument* parsed = colorFont.LoadFile(entry.colorfont) ? &colorFont : nullptr;
+    if (!ReadColors(data.colors, parsed)) return 0;
+    if (!ReadFonts(colorFont, data.fonts)) return 0;
     data.fonts.path = entry.colorfont;
     if (!data.images.loadImageConfig(entry.img)) return 0;
     data.name = entry.name;

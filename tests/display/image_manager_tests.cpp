@@ -412,3 +412,58 @@ TEST_F(ImageManagerTest, ReloadingAThousandTimesLeaksNoGdiObject)
     EXPECT_EQ(before, GdiProbeSlot());
     EXPECT_EQ(6, images.getImageList("t")->GetImageCount());
 }
+
+TEST_F(ImageManagerTest, ACellAnswersTheSameBitmapUntilTheNextLoad)
+{
+    PixelGrid strip = Strip(3);
+    WriteBmp("strip.bmp", strip);
+    WriteBmp("picture.bmp", SolidGrid(2, 2, kWhite));
+    CString a = WriteConfig(List("s", "strip.bmp", Cell("c0") + Cell("c1") + Cell("c2")), "a.xml");
+    CString b = WriteConfig(Image("pic", "picture.bmp"), "b.xml");
+    ASSERT_EQ(1, images.loadImageConfig(a));
+    const CBitmap* second = images.getBitmap("c1");
+    const CBitmap* first = images.getBitmap("c0");
+    EXPECT_EQ(second, images.getBitmap("c1"));
+    EXPECT_EQ(first, images.getBitmap("c0"));
+    EXPECT_TRUE(SamePixels(CellOf(strip, 1), second));
+    EXPECT_TRUE(SamePixels(CellOf(strip, 0), first));
+    EXPECT_TRUE(SamePixels(CellOf(strip, 2), images.getBitmap("c2")));
+    EXPECT_TRUE(SamePixels(CellOf(strip, 1), images.getBitmap("c1")));
+    ASSERT_EQ(1, images.loadImageConfig(b));
+    EXPECT_EQ(nullptr, images.getBitmap("c1"));
+}
+
+TEST_F(ImageManagerTest, ReloadingWithEveryCellAskedForLeaksNoGdiObject)
+{
+    WriteBmp("strip.bmp", Strip(6));
+    CString a = WriteConfig(List("s", "strip.bmp", Cell("c0") + Cell("c1") + Cell("c1") + Cell("c3")), "a.xml");
+    CString b = WriteConfig(List("t", "strip.bmp", Cell("d0") + Cell("d1") + Cell("d2")), "b.xml");
+    auto cycle = [&]() {
+        ASSERT_EQ(1, images.loadImageConfig(a));
+        for (const char* cell : {"c0", "c1", "c3", "c1"}) ASSERT_NE(nullptr, images.getBitmap(cell));
+        ASSERT_EQ(1, images.loadImageConfig(b));
+        for (const char* cell : {"d0", "d1", "d2"}) ASSERT_NE(nullptr, images.getBitmap(cell));
+    };
+    cycle();
+    int before = GdiProbeSlot();
+    for (int i = 0; i < 300; ++i) cycle();
+    EXPECT_EQ(before, GdiProbeSlot());
+}
+
+TEST(GdiProbe, GrowsByOnePerLiveObjectWhateverTheOrderOfFrees)
+{
+    std::vector<HGDIOBJ> objects;
+    for (int i = 0; i < 40; ++i) objects.push_back(CreateSolidBrush(RGB(i, 0, 0)));
+    // Free every other one, out of order, so that freed slots are scattered.
+    for (int i = 0; i < 40; i += 2) DeleteObject(objects[(i * 7) % 40]);
+    int before = GdiProbeSlot();
+    HGDIOBJ leaked[3] = {CreatePen(PS_SOLID, 1, 0), CreateSolidBrush(0), CreateSolidBrush(1)};
+    EXPECT_EQ(before + 3, GdiProbeSlot());
+    DeleteObject(leaked[1]);
+    EXPECT_EQ(before + 2, GdiProbeSlot());
+    DeleteObject(leaked[0]);
+    DeleteObject(leaked[2]);
+    EXPECT_EQ(before, GdiProbeSlot());
+    for (int i = 1; i < 40; i += 2) DeleteObject(objects[i]);
+    EXPECT_EQ(before - 20, GdiProbeSlot());
+}

@@ -80,6 +80,29 @@ TEST_F(KivIntlTest, SecondRecordOfAKeyWins)
     EXPECT_STREQ("second", Intl().GetText("Open"));
 }
 
+TEST_F(KivIntlTest, SortedAndUnsortedFilesTranslateAlike)
+{
+    std::string sorted = Mox(Record("Close", "Schliessen") + Record("Open", "Oeffnen") + Record("Save", "Sichern"));
+    std::string unsorted = Mox(Record("Save", "Sichern") + Record("Open", "Oeffnen") + Record("Close", "Schliessen"));
+    for (const std::string& bytes : {sorted, unsorted}) {
+        Prepare(bytes);
+        EXPECT_STREQ("Schliessen", Intl().GetText("Close"));
+        EXPECT_STREQ("Oeffnen", Intl().GetText("Open"));
+        EXPECT_STREQ("Sichern", Intl().GetText("Save"));
+        const char* missing = "Quit";
+        EXPECT_EQ(missing, Intl().GetText(missing));
+    }
+}
+
+TEST_F(KivIntlTest, LastRecordOfAKeyWinsAcrossTheSort)
+{
+    Prepare(Mox(Record("Open", "first") + Record("Save", "Sichern") + Record("Close", "Schliessen") +
+                Record("Open", "second") + Record("Close", "Zu")));
+    EXPECT_STREQ("second", Intl().GetText("Open"));
+    EXPECT_STREQ("Zu", Intl().GetText("Close"));
+    EXPECT_STREQ("Sichern", Intl().GetText("Save"));
+}
+
 TEST_F(KivIntlTest, ZeroBytesCutKeysAndTranslations)
 {
     Prepare(Mox(Record(std::string("Op\0en", 5), std::string("Oe\0ffnen", 8))));

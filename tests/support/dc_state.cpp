@@ -1,4 +1,6 @@
 #include "support/dc_state.h"
+#include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -77,10 +79,21 @@ DcStateCheck::DcStateCheck(CDC* dc)
                                          << "], on the attribute handle: [" << attrib << "]";
 }
 
+// Wine hands out freed slots last-freed first, so the slot of a single probe depends on the
+// order of earlier frees, not only on how many objects live. Probes enough to use up every freed
+// slot take fresh ones after them: the highest slot, less the number of probes, then counts the
+// live objects whatever order they were freed in.
 int GdiProbeSlot()
 {
-    HBRUSH probe = CreateSolidBrush(RGB(1, 2, 3));
-    int slot = static_cast<int>(reinterpret_cast<UINT_PTR>(probe) & 0xFFFF);
-    DeleteObject(probe);
-    return slot;
+    const int kProbes = 8192;  // more than the slots any test frees
+    std::vector<HBRUSH> probes;
+    int highest = 0;
+    for (int i = 0; i < kProbes; ++i) {
+        HBRUSH probe = CreateSolidBrush(RGB(1, 2, 3));
+        if (!probe) break;
+        probes.push_back(probe);
+        highest = std::max(highest, static_cast<int>(reinterpret_cast<UINT_PTR>(probe) & 0xFFFF));
+    }
+    for (auto it = probes.rbegin(); it != probes.rend(); ++it) DeleteObject(*it);
+    return highest + 1 - static_cast<int>(probes.size());
 }

@@ -33,6 +33,6 @@ private:
     DcState m_outputBefore, m_attribBefore;
 };
 
-// The handle slot a newly created GDI object gets: stays put while nothing leaks, grows by one
-// per leaked object (GetGuiResources is a stub under Wine).
+// A count of live GDI objects read from the handle slots that new objects get: stays put while
+// nothing leaks, grows by one per leaked object (GetGuiResources is a stub under Wine).
 int GdiProbeSlot();

@@ -6,11 +6,13 @@
 #include "mo_reader.h"
 #include "po_reader.h"
 #include "po_writer.h"
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <string_view>
 
 using namespace kiv_skin;
 
@@ -121,6 +123,20 @@ std::string Encode(const std::string& text, unsigned source, unsigned target, co
     throw InputError(where, "\"" + text + "\" cannot be represented in code page " + CodePageName(target));
 }
 
+// The messages in ascending byte order of their keys as the library reads them (up to a first
+// zero byte), the last of equal keys kept: a catalogue in this order loads in one linear pass.
+std::vector<Message> InKeyOrder(std::vector<Message> messages)
+{
+    auto cut = [](const Message& m) { return std::string_view(m.key.c_str()); };
+    std::stable_sort(messages.begin(), messages.end(), [&](const Message& a, const Message& b) { return cut(a) < cut(b); });
+    std::vector<Message> kept;
+    for (Message& m : messages) {
+        if (!kept.empty() && cut(kept.back()) == cut(m)) kept.back() = std::move(m);
+        else kept.push_back(std::move(m));
+    }
+    return kept;
+}
+
 int Compile(const Options& o)
 {
     std::string bytes = ReadAll(o.input);
@@ -131,12 +147,13 @@ int Compile(const Options& o)
     if (!declared) Warn(o.input, "no charset in the header: reading it as UTF-8");
     unsigned source = declared ? CodePageOf(set.charset) : kUtf8;
     if (source == 0) throw InputError(o.input, "unknown charset " + set.charset);
+    std::vector<Message> encoded;
+    for (const Message& m : set.messages)
+        encoded.push_back({Encode(m.key, source, target, m.where, set.charset),
+                           Encode(m.value, source, target, m.where, set.charset), m.where});
     std::string file = mox::kMagic;
-    for (const Message& m : set.messages) {
-        std::string key = Encode(m.key, source, target, m.where, set.charset);
-        std::string value = Encode(m.value, source, target, m.where, set.charset);
-        if (!mox::AppendRecord(file, key, value)) throw InputError(m.where, "message too long for a catalogue");
-    }
+    for (const Message& m : InKeyOrder(encoded))
+        if (!mox::AppendRecord(file, m.key, m.value)) throw InputError(m.where, "message too long for a catalogue");
     WriteAll(o.output, file);
     std::fprintf(stderr, "%s: %zu messages in code page %s\n", o.output.c_str(), set.messages.size(), CodePageName(target).c_str());
     return 0;

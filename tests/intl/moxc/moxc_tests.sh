@@ -45,6 +45,23 @@ round_trip() {
 check round_trip real_zh_CN zh_CN
 check round_trip real_zh_TW zh_TW
 check round_trip en en --code-page CP1252
+# Records come in ascending byte order of their keys, each key once, whatever the .po's order.
+ascending() {
+  python3 - "$1" <<'PY' || fail "$1: keys not in ascending order"
+import struct, sys
+data = open(sys.argv[1], 'rb').read()
+pos, keys = 6, []
+while pos < len(data):
+    (k,) = struct.unpack_from('<i', data, pos); key = data[pos + 4:pos + 4 + k]; pos += 4 + k
+    (v,) = struct.unpack_from('<i', data, pos); pos += 4 + v
+    keys.append(key)
+sys.exit(0 if len(keys) > 1 and all(a < b for a, b in zip(keys, keys[1:])) else 1)
+PY
+}
+printf 'msgid "b"\nmsgstr "2"\n\nmsgid "C"\nmsgstr "3"\n\nmsgid "a"\nmsgstr "1"\n' > unordered.po
+check ok compile_unordered compile unordered.po -o unordered.mox --lang en
+check ascending unordered.mox
+check ascending real_zh_CN.mox
 check contains real_zh_CN.mox '\xd7\xee\xd0\xc2\xbc\xdb'   # 最新价 in GB2312
 check contains real_zh_TW.mox '\xc0\xc9\xae\xd7'           # 檔案 in Big5
 check contains en.mox 'Caf\xe9'
