@@ -8,6 +8,7 @@
 #include <psapi.h>
 #include <atomic>
 #include <deque>
+#include <set>
 #include <thread>
 
 namespace {
@@ -30,6 +31,8 @@ SIZE_T WorkingSet()
 // A repaint as a host does it around the library: the host selects a brush of its own (a raw
 // handle, new each time) and the library selects its brush and puts the host's back through the
 // temporary wrapper SelectObject answers. Returns false if the wrapper named another handle.
+// Wine gives a handle slot 256 generations before its values repeat: thousands of host brushes
+// live at once so that a million repaints see about a million different handle values.
 class Repainter {
 public:
     explicit Repainter(CDC* dc) : m_dc(dc), m_ours(RGB(1, 2, 3)) {}
@@ -37,16 +40,16 @@ public:
     {
         for (HBRUSH b : m_hostBrushes) DeleteObject(b);
     }
+    HBRUSH LastHostBrush() const { return m_hostBrushes.back(); }
     bool Repaint(int i)
     {
-        // Several host brushes live at once, so that handle values are not simply reused.
         m_hostBrushes.push_back(CreateSolidBrush(RGB(i & 0xFF, 0, 0)));
         HGDIOBJ original = ::SelectObject(m_dc->m_hDC, m_hostBrushes.back());
         CBrush* host = m_dc->SelectObject(&m_ours);
         bool right = host != nullptr && host->m_hObject == m_hostBrushes.back();
         m_dc->SelectObject(host);
         ::SelectObject(m_dc->m_hDC, original);
-        if (m_hostBrushes.size() > 32) {
+        if (m_hostBrushes.size() > kLiveHostBrushes) {
             DeleteObject(m_hostBrushes.front());
             m_hostBrushes.pop_front();
         }
@@ -54,6 +57,7 @@ public:
     }
 
 private:
+    static const size_t kLiveHostBrushes = 4096;
     CDC* m_dc;
     CBrush m_ours;
     std::deque<HBRUSH> m_hostBrushes;
@@ -76,14 +80,21 @@ TEST(TemporaryWrappers, MemoryStaysFlatOverAMillionSelections)
 {
     DibCanvas canvas(4, 4);
     Repainter painter(canvas.dc());
-    for (int i = 0; i < 10000; ++i) ASSERT_TRUE(painter.Repaint(i));
+    {
+        std::set<HBRUSH> distinct;
+        for (int i = 0; i < 100000; ++i) {
+            ASSERT_TRUE(painter.Repaint(i));
+            distinct.insert(painter.LastHostBrush());
+        }
+        ASSERT_GT(distinct.size(), 90000u) << "the host's handles must differ for the check to mean anything";
+    }
     SIZE_T before = WorkingSet();
     ASSERT_GT(before, 0u);
     for (int i = 0; i < 1000000; ++i) {
         if (!painter.Repaint(i)) FAIL() << "wrong previous brush at " << i;
     }
-    SIZE_T grown = WorkingSet() - before;
-    EXPECT_LT(grown, 4u * 1024 * 1024) << "bytes grown over 1,000,000 selections";
+    long long grown = static_cast<long long>(WorkingSet()) - static_cast<long long>(before);
+    EXPECT_LT(grown, 4LL * 1024 * 1024) << "bytes grown over 1,000,000 selections";
 }
 
 TEST(TemporaryWrappers, TwoThreadsDrawingAtOnce)
@@ -92,7 +103,7 @@ TEST(TemporaryWrappers, TwoThreadsDrawingAtOnce)
     auto draw = [&wrong] {
         DibCanvas canvas(4, 4);
         Repainter painter(canvas.dc());
-        for (int i = 0; i < 200000; ++i) wrong += painter.Repaint(i) ? 0 : 1;
+        for (int i = 0; i < 1000000; ++i) wrong += painter.Repaint(i) ? 0 : 1;
     };
     std::thread first(draw), second(draw);
     first.join();
