@@ -42,12 +42,15 @@ CString ExeDirectory()
 }
 
 // Cell position of a strip as a bitmap of its own: drawn on white into a screen-compatible
-// bitmap.
+// bitmap. Null when no bitmap of that size can be made.
 CBitmap* CutCell(HIMAGELIST list, int position, int width, int height)
 {
     CClientDC screen(nullptr);
     CBitmap* cell = new CBitmap;
-    cell->CreateCompatibleBitmap(&screen, width, height);
+    if (!cell->CreateCompatibleBitmap(&screen, width, height)) {
+        delete cell;
+        return nullptr;
+    }
     CDC memory;
     memory.CreateCompatibleDC(nullptr);
     CBitmap* previous = memory.SelectObject(cell);
@@ -176,7 +179,7 @@ int ImageManager::_addListChildrenToMap(const CString& file, DWORD mask, TiXmlEl
         CString cellMask = child->Attribute("mask");
         ImageEntry* entry = new ImageEntry{child->Attribute("name"), file, list, cell, position,
                                            cellMask.IsEmpty() ? mask : GetColorFromString(cellMask)};
-        if (!_insertEntry(entry)) {
+        if (!cell || !_insertEntry(entry)) {
             delete cell;
             delete entry;
         }
