@@ -14,7 +14,8 @@ public:
     virtual ~CImageList() { DeleteImageList(); }
 
     operator HIMAGELIST() const { return m_hImageList; }
-    HIMAGELIST GetSafeHandle() const { return m_hImageList; }
+    // Safe through a null pointer, as in MFC.
+    HIMAGELIST GetSafeHandle() const { return this == nullptr ? nullptr : m_hImageList; }
 
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow)
     {

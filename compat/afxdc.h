@@ -1,10 +1,14 @@
 // MFC's device context wrapper. As in MFC, output goes to m_hDC and attribute queries to
-// m_hAttribDC; setters of colours, modes and selected objects change both handles when they
-// differ, and SelectObject answers the previously selected object through FromHandle.
+// m_hAttribDC; setters of colours, modes, clipping and selected pens, brushes and fonts change
+// both handles when they differ, a bitmap is selected into the output handle only, and
+// SelectObject answers the previously selected object through FromHandle.
 #pragma once
 #include "afxgdi.h"
 #include "afxstr.h"
 #include "afxtypes.h"
+
+class CDC;
+inline CHandleMap<CDC, HDC>* afxMapHDC();
 
 class CDC : public CObject {
     DECLARE_DYNAMIC(CDC)
@@ -20,19 +24,27 @@ public:
     virtual ~CDC() { if (m_hDC != nullptr) ::DeleteDC(Detach()); }
 
     operator HDC() const { return m_hDC; }
-    HDC GetSafeHdc() const { return m_hDC; }
+    // Safe through a null pointer, as in MFC.
+    HDC GetSafeHdc() const { return this == nullptr ? nullptr : m_hDC; }
+    // Attaching to a context that already holds a handle is a programming error.
     BOOL Attach(HDC hDC)
     {
+        if (m_hDC != nullptr || m_hAttribDC != nullptr) AfxAssertFailedLine(__FILE__, __LINE__);
         if (hDC == nullptr) return FALSE;
-        m_hDC = m_hAttribDC = hDC;
+        m_hDC = hDC;
+        afxMapHDC()->SetPermanent(hDC, this);
+        SetAttribDC(hDC);
         return TRUE;
     }
     HDC Detach()
     {
         HDC h = m_hDC;
-        m_hDC = m_hAttribDC = nullptr;
+        if (h != nullptr) afxMapHDC()->RemoveHandle(h);
+        ReleaseAttribDC();
+        m_hDC = nullptr;
         return h;
     }
+    static CDC* FromHandle(HDC hDC) { return afxMapHDC()->FromHandle(hDC); }
     virtual void SetAttribDC(HDC hDC) { m_hAttribDC = hDC; }
     virtual void SetOutputDC(HDC hDC) { m_hDC = hDC; }
     virtual void ReleaseAttribDC() { m_hAttribDC = nullptr; }
@@ -57,17 +69,18 @@ public:
     BOOL IsPrinting() const { return m_bPrinting; }
 
     // Selected objects
-    HGDIOBJ SelectObject(HGDIOBJ hObject) { return SelectBoth(hObject); }
-    CGdiObject* SelectObject(CGdiObject* p) { return CGdiObject::FromHandle(SelectBoth(Handle(p))); }
-    CPen* SelectObject(CPen* p) { return static_cast<CPen*>(SelectObject(static_cast<CGdiObject*>(p))); }
-    CBrush* SelectObject(CBrush* p) { return static_cast<CBrush*>(SelectObject(static_cast<CGdiObject*>(p))); }
-    virtual CFont* SelectObject(CFont* p) { return static_cast<CFont*>(SelectObject(static_cast<CGdiObject*>(p))); }
+    // The handle and CGdiObject forms and bitmaps go to the output handle only, as in MFC.
+    HGDIOBJ SelectObject(HGDIOBJ hObject) { return hObject != nullptr ? ::SelectObject(m_hDC, hObject) : nullptr; }
+    CGdiObject* SelectObject(CGdiObject* p) { return CGdiObject::FromHandle(::SelectObject(m_hDC, p->GetSafeHandle())); }
+    CPen* SelectObject(CPen* p) { return static_cast<CPen*>(CGdiObject::FromHandle(SelectBoth(p->GetSafeHandle()))); }
+    CBrush* SelectObject(CBrush* p) { return static_cast<CBrush*>(CGdiObject::FromHandle(SelectBoth(p->GetSafeHandle()))); }
+    virtual CFont* SelectObject(CFont* p) { return static_cast<CFont*>(CGdiObject::FromHandle(SelectBoth(p->GetSafeHandle()))); }
     CBitmap* SelectObject(CBitmap* p) { return static_cast<CBitmap*>(SelectObject(static_cast<CGdiObject*>(p))); }
     virtual CGdiObject* SelectStockObject(int nIndex) { return CGdiObject::FromHandle(SelectBoth(::GetStockObject(nIndex))); }
-    CPen* GetCurrentPen() const { return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hDC, OBJ_PEN))); }
-    CBrush* GetCurrentBrush() const { return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hDC, OBJ_BRUSH))); }
-    CFont* GetCurrentFont() const { return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hDC, OBJ_FONT))); }
-    CBitmap* GetCurrentBitmap() const { return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hDC, OBJ_BITMAP))); }
+    CPen* GetCurrentPen() const { return CPen::FromHandle(static_cast<HPEN>(::GetCurrentObject(m_hAttribDC, OBJ_PEN))); }
+    CBrush* GetCurrentBrush() const { return CBrush::FromHandle(static_cast<HBRUSH>(::GetCurrentObject(m_hAttribDC, OBJ_BRUSH))); }
+    CFont* GetCurrentFont() const { return CFont::FromHandle(static_cast<HFONT>(::GetCurrentObject(m_hAttribDC, OBJ_FONT))); }
+    CBitmap* GetCurrentBitmap() const { return CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(m_hAttribDC, OBJ_BITMAP))); }
 
     // Colours, modes and alignment
     virtual COLORREF SetTextColor(COLORREF c) { return SetBoth(::SetTextColor, c, COLORREF(CLR_INVALID)); }
@@ -154,12 +167,14 @@ public:
     int DrawText(const CString& str, LPRECT lpRect, UINT nFormat) { return DrawText(str, str.GetLength(), lpRect, nFormat); }
     int IntersectClipRect(int x1, int y1, int x2, int y2)
     {
-        return ::IntersectClipRect(m_hDC, x1, y1, x2, y2);
+        int result = ERROR;
+        if (m_hDC != nullptr && m_hDC != m_hAttribDC) result = ::IntersectClipRect(m_hDC, x1, y1, x2, y2);
+        if (m_hAttribDC != nullptr) result = ::IntersectClipRect(m_hAttribDC, x1, y1, x2, y2);
+        return result;
     }
     int IntersectClipRect(LPCRECT r) { return IntersectClipRect(r->left, r->top, r->right, r->bottom); }
 
 private:
-    static HGDIOBJ Handle(const CGdiObject* p) { return p ? p->m_hObject : nullptr; }
     HGDIOBJ SelectBoth(HGDIOBJ h)
     {
         HGDIOBJ old = nullptr;
@@ -187,6 +202,14 @@ inline const CRuntimeClass CDC::classCDC = {"CDC", sizeof(CDC), 0xFFFF, nullptr,
 inline CRuntimeClass* PASCAL CDC::_GetBaseClass() { return RUNTIME_CLASS(CObject); }
 inline CRuntimeClass* PASCAL CDC::GetThisClass() { return _RUNTIME_CLASS(CDC); }
 inline CRuntimeClass* CDC::GetRuntimeClass() const { return _RUNTIME_CLASS(CDC); }
+
+inline CHandleMap<CDC, HDC>* afxMapHDC()
+{
+    static auto* map = new CHandleMap<CDC, HDC>(
+        [](CDC& wrapper, HDC h) { wrapper.m_hDC = wrapper.m_hAttribDC = h; },
+        [](HDC h) { return ::GetObjectType(h) != 0; });
+    return map;
+}
 
 inline BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
 {

@@ -4,10 +4,12 @@
 #pragma once
 #include "afx.h"
 #include "afxexcept.h"
-#include <map>
-#include <memory>
+#include "winhand_.h"
 
 class CDC;
+class CGdiObject;
+
+inline CHandleMap<CGdiObject, HGDIOBJ>* afxMapHGDIOBJ();
 
 class CGdiObject : public CObject {
 public:
@@ -19,19 +21,22 @@ public:
     virtual ~CGdiObject() { DeleteObject(); }
 
     operator HGDIOBJ() const { return m_hObject; }
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    // Safe through a null pointer, as in MFC.
+    HGDIOBJ GetSafeHandle() const { return this == nullptr ? nullptr : m_hObject; }
 
+    // Attaching to an object that already holds a handle is a programming error.
     BOOL Attach(HGDIOBJ hObject)
     {
+        if (m_hObject != nullptr) AfxAssertFailedLine(__FILE__, __LINE__);
         if (hObject == nullptr) return FALSE;
         m_hObject = hObject;
-        Permanent()[hObject] = this;
+        afxMapHGDIOBJ()->SetPermanent(hObject, this);
         return TRUE;
     }
     HGDIOBJ Detach()
     {
         HGDIOBJ h = m_hObject;
-        if (h != nullptr) Permanent().erase(h);
+        if (h != nullptr) afxMapHGDIOBJ()->RemoveHandle(h);
         m_hObject = nullptr;
         return h;
     }
@@ -40,36 +45,16 @@ public:
     UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
     BOOL CreateStockObject(int nIndex) { return (m_hObject = ::GetStockObject(nIndex)) != nullptr; }
 
-    static CGdiObject* FromHandle(HGDIOBJ hObject)
-    {
-        if (hObject == nullptr) return nullptr;
-        auto found = Permanent().find(hObject);
-        if (found != Permanent().end()) return found->second;
-        auto& temp = Temporary()[hObject];
-        if (!temp) {
-            temp.reset(new CGdiObject);
-            temp->m_hObject = hObject;  // not attached: a temporary never deletes the handle
-        }
-        return temp.get();
-    }
-
-private:
-    struct ReleaseTemporary {
-        void operator()(CGdiObject* p) const { p->m_hObject = nullptr; delete p; }
-    };
-    // The maps outlive every static object: GDI objects owned by statics are deleted at exit,
-    // after function-local statics created later than them are gone.
-    static std::map<HGDIOBJ, CGdiObject*>& Permanent()
-    {
-        static auto* map = new std::map<HGDIOBJ, CGdiObject*>;
-        return *map;
-    }
-    static std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>>& Temporary()
-    {
-        static auto* map = new std::map<HGDIOBJ, std::unique_ptr<CGdiObject, ReleaseTemporary>>;
-        return *map;
-    }
+    static CGdiObject* FromHandle(HGDIOBJ hObject) { return afxMapHGDIOBJ()->FromHandle(hObject); }
 };
+
+inline CHandleMap<CGdiObject, HGDIOBJ>* afxMapHGDIOBJ()
+{
+    static auto* map = new CHandleMap<CGdiObject, HGDIOBJ>(
+        [](CGdiObject& wrapper, HGDIOBJ h) { wrapper.m_hObject = h; },
+        [](HGDIOBJ h) { return ::GetObjectType(h) != 0; });
+    return map;
+}
 
 class CPen : public CGdiObject {
 public:

@@ -1,11 +1,15 @@
 // CString: MFC's multi-byte string, for toolchains without MFC.
-// Same names, signatures and behaviour as CStringT<char> in an _MBCS build.
+// Same names, signatures and behaviour as CStringT<char> in an _MBCS build: searching, trimming,
+// case changes and comparisons without case go through the C runtime's multi-byte functions, so
+// they follow the process's multi-byte code page and never split a double-byte character (a
+// Big5 or GBK character whose second byte is 0x5C is not a backslash).
 #pragma once
+#include "afxexcept.h"
 #include <windows.h>
-#include <cctype>
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <mbstring.h>
 #include <string>
 
 class CString {
@@ -18,9 +22,18 @@ public:
     int GetLength() const { return static_cast<int>(m_str.size()); }
     bool IsEmpty() const { return m_str.empty(); }
     void Empty() { m_str.clear(); }
-    char GetAt(int i) const { return m_str.at(i); }
-    void SetAt(int i, char ch) { m_str.at(i) = ch; }
-    char operator[](int i) const { return GetAt(i); }
+    // The terminating null is addressable; any other index outside the string throws.
+    char GetAt(int iChar) const
+    {
+        if (iChar < 0 || iChar > GetLength()) AfxThrowInvalidArgException();
+        return m_str.c_str()[iChar];
+    }
+    void SetAt(int iChar, char ch)
+    {
+        if (iChar < 0 || iChar >= GetLength()) AfxThrowInvalidArgException();
+        m_str[iChar] = ch;
+    }
+    char operator[](int iChar) const { return GetAt(iChar); }
     const char* GetString() const { return m_str.c_str(); }
     operator const char*() const { return m_str.c_str(); }
 
@@ -44,13 +57,26 @@ public:
     void Append(const char* psz) { *this += psz; }
     void AppendChar(char ch) { m_str += ch; }
 
-    int Compare(const char* psz) const { return std::strcmp(m_str.c_str(), psz); }
-    int CompareNoCase(const char* psz) const { return _stricmp(m_str.c_str(), psz); }
+    int Compare(const char* psz) const { return _mbscmp(Bytes(), Bytes(psz)); }
+    int CompareNoCase(const char* psz) const { return _mbsicmp(Bytes(), Bytes(psz)); }
 
-    int Find(char ch, int iStart = 0) const { return Index(m_str.find(ch, Start(iStart))); }
-    int Find(const char* psz, int iStart = 0) const { return Index(m_str.find(psz, Start(iStart))); }
-    int ReverseFind(char ch) const { return Index(m_str.rfind(ch)); }
-    int FindOneOf(const char* chars) const { return Index(m_str.find_first_of(chars)); }
+    int Find(char ch, int iStart = 0) const
+    {
+        if (iStart < 0 || iStart >= GetLength()) return -1;
+        return Offset(_mbschr(Bytes() + iStart, static_cast<unsigned char>(ch)));
+    }
+    // Matches start at character boundaries, as _mbsstr's do on Windows (Wine's compares bytes).
+    int Find(const char* pszSub, int iStart = 0) const
+    {
+        if (pszSub == nullptr || iStart < 0 || iStart > GetLength()) return -1;
+        size_t n = std::strlen(pszSub);
+        for (size_t i = iStart;; i = Next(i)) {
+            if (std::strncmp(m_str.c_str() + i, pszSub, n) == 0) return static_cast<int>(i);
+            if (i >= m_str.size() || m_str[i] == '\0') return -1;
+        }
+    }
+    int ReverseFind(char ch) const { return Offset(_mbsrchr(Bytes(), static_cast<unsigned char>(ch))); }
+    int FindOneOf(const char* pszCharSet) const { return Offset(_mbspbrk(Bytes(), Bytes(pszCharSet))); }
 
     CString Mid(int iFirst) const { return Mid(iFirst, GetLength()); }
     CString Mid(int iFirst, int nCount) const
@@ -62,20 +88,24 @@ public:
     CString Left(int nCount) const { return FromStd(m_str.substr(0, Clamp(nCount))); }
     CString Right(int nCount) const { return FromStd(m_str.substr(GetLength() - Clamp(nCount))); }
 
-    CString& TrimLeft() { return TrimLeftWhile([](unsigned char c) { return std::isspace(c) != 0; }); }
-    CString& TrimRight() { return TrimRightWhile([](unsigned char c) { return std::isspace(c) != 0; }); }
+    CString& TrimLeft() { return TrimLeftWhile(IsSpace); }
+    CString& TrimRight() { return TrimRightWhile(IsSpace); }
     CString& Trim() { TrimRight(); return TrimLeft(); }
-    CString& TrimLeft(char ch) { return TrimLeftWhile([ch](unsigned char c) { return c == (unsigned char)ch; }); }
-    CString& TrimRight(char ch) { return TrimRightWhile([ch](unsigned char c) { return c == (unsigned char)ch; }); }
+    CString& TrimLeft(char ch) { return TrimLeftWhile([ch](char c) { return c == ch; }); }
+    CString& TrimRight(char ch) { return TrimRightWhile([ch](char c) { return c == ch; }); }
     CString& Trim(char ch) { TrimRight(ch); return TrimLeft(ch); }
 
-    CString& MakeUpper() { for (char& c : m_str) c = (char)std::toupper((unsigned char)c); return *this; }
-    CString& MakeLower() { for (char& c : m_str) c = (char)std::tolower((unsigned char)c); return *this; }
+    CString& MakeUpper() { _mbsupr(MutableBytes()); return *this; }
+    CString& MakeLower() { _mbslwr(MutableBytes()); return *this; }
 
+    // Replaces whole characters only: a trail byte equal to chOld stays.
     int Replace(char chOld, char chNew)
     {
+        if (chOld == chNew) return 0;
         int n = 0;
-        for (char& c : m_str) if (c == chOld) { c = chNew; ++n; }
+        for (size_t i = 0; i < m_str.size(); i = Next(i)) {
+            if (m_str[i] == chOld) { m_str[i] = chNew; ++n; }
+        }
         return n;
     }
 
@@ -120,21 +150,34 @@ public:
 
 private:
     static CString FromStd(const std::string& s) { return CString(s.data(), static_cast<int>(s.size())); }
-    size_t Start(int i) const { return static_cast<size_t>(i < 0 ? 0 : i); }
-    static int Index(size_t pos) { return pos == std::string::npos ? -1 : static_cast<int>(pos); }
     int Clamp(int i) const { return i < 0 ? 0 : (i > GetLength() ? GetLength() : i); }
+    static const unsigned char* Bytes(const char* psz) { return reinterpret_cast<const unsigned char*>(psz); }
+    const unsigned char* Bytes() const { return Bytes(m_str.c_str()); }
+    unsigned char* MutableBytes() { return reinterpret_cast<unsigned char*>(&m_str[0]); }
+    int Offset(const unsigned char* found) const { return found ? static_cast<int>(found - Bytes()) : -1; }
+    static bool IsSpace(char c) { return _ismbcspace(static_cast<unsigned char>(c)) != 0; }
+    // The index of the character after the one at i, as _mbsinc steps; never past the end.
+    size_t Next(size_t i) const
+    {
+        size_t next = static_cast<size_t>(_mbsinc(Bytes() + i) - Bytes());
+        return next < m_str.size() ? next : m_str.size();
+    }
+    // Both trims walk whole characters up to the first null, as MFC's do.
     template <class Pred> CString& TrimLeftWhile(Pred p)
     {
         size_t i = 0;
-        while (i < m_str.size() && p((unsigned char)m_str[i])) ++i;
+        while (i < m_str.size() && m_str[i] != '\0' && p(m_str[i])) i = Next(i);
         m_str.erase(0, i);
         return *this;
     }
     template <class Pred> CString& TrimRightWhile(Pred p)
     {
-        size_t n = m_str.size();
-        while (n > 0 && p((unsigned char)m_str[n - 1])) --n;
-        m_str.resize(n);
+        size_t trailing = std::string::npos;
+        for (size_t i = 0; i < m_str.size() && m_str[i] != '\0'; i = Next(i)) {
+            if (!p(m_str[i])) trailing = std::string::npos;
+            else if (trailing == std::string::npos) trailing = i;
+        }
+        if (trailing != std::string::npos) m_str.resize(trailing);
         return *this;
     }
 

@@ -43,13 +43,16 @@ CString ExeDirectory()
 }
 
 // Cell position of a strip as a bitmap of its own: drawn on white into a screen-compatible
-// bitmap.
+// bitmap. Null when no bitmap of that size can be made.
 CBitmap* CutCell(HIMAGELIST list, int position, SIZE size)
 {
     int width = size.cx, height = size.cy;
     CClientDC screen(nullptr);
     CBitmap* cell = new CBitmap;
-    cell->CreateCompatibleBitmap(&screen, width, height);
+    if (!cell->CreateCompatibleBitmap(&screen, width, height)) {
+        delete cell;
+        return nullptr;
+    }
     CDC memory;
     memory.CreateCompatibleDC(nullptr);
     CBitmap* previous = memory.SelectObject(cell);

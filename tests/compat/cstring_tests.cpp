@@ -1,6 +1,7 @@
 // CString behaviours the library relies on, checked against MFC's documented results.
 #include <afxwin.h>
 #include <gtest/gtest.h>
+#include <cstring>
 
 TEST(CString, ConstructsFromNullAsEmpty)
 {
@@ -111,4 +112,63 @@ TEST(CString, ConcatenationAndAssignment)
     EXPECT_STREQ("cfg\\style.xmlx", s);
     s = static_cast<const char*>(nullptr);
     EXPECT_TRUE(s.IsEmpty());
+}
+
+// The terminating null is addressable; other indexes outside the string throw the framework's
+// exception, by pointer.
+TEST(CString, GetAtReachesTheTerminatorAndThrowsBeyondIt)
+{
+    CString s("ab");
+    EXPECT_EQ('b', s.GetAt(1));
+    EXPECT_EQ('\0', s.GetAt(2));
+    EXPECT_EQ('\0', s[2]);
+    for (int index : {3, -1}) {
+        bool thrown = false;
+        try {
+            s.GetAt(index);
+        } catch (CInvalidArgException* e) {
+            thrown = true;
+            e->Delete();
+        }
+        EXPECT_TRUE(thrown) << index;
+    }
+    EXPECT_THROW(s[3], CSimpleException*);
+    EXPECT_THROW(s.SetAt(2, 'x'), CInvalidArgException*);
+    s.SetAt(1, 'x');
+    EXPECT_STREQ("ax", s);
+}
+
+TEST(CString, FindFromOutsideTheStringFindsNothing)
+{
+    CString s("a|b");
+    EXPECT_EQ(-1, s.Find('a', -1));
+    EXPECT_EQ(-1, s.Find("a", -1));
+    EXPECT_EQ(-1, s.Find('b', 3));
+    EXPECT_EQ(3, s.Find("", 3));
+    EXPECT_EQ(-1, s.Find("", 4));
+    EXPECT_EQ(-1, s.Find(static_cast<const char*>(nullptr)));
+}
+
+// GetBuffer keeps the text and never shortens it; ReleaseBuffer sets the length to the text's
+// null or to the length given.
+TEST(CString, GetBufferAndReleaseBufferLengths)
+{
+    CString s("abcdef");
+    char* p = s.GetBuffer(2);
+    EXPECT_STREQ("abcdef", p);
+    s.ReleaseBuffer();
+    EXPECT_EQ(6, s.GetLength());
+    p = s.GetBuffer(20);
+    EXPECT_STREQ("abcdef", p);
+    std::memcpy(p, "0123456789012345678", 20);
+    s.ReleaseBuffer();
+    EXPECT_EQ(19, s.GetLength());
+    s.GetBuffer();
+    s.ReleaseBuffer(4);
+    EXPECT_EQ(4, s.GetLength());
+    EXPECT_STREQ("0123", s);
+    p = s.GetBufferSetLength(2);
+    EXPECT_EQ(2, s.GetLength());
+    EXPECT_EQ('\0', p[2]);
+    EXPECT_STREQ("01", s);
 }

@@ -104,6 +104,40 @@ TEST_F(SplitHandles, OutputGoesToTheOutputHandle)
     EXPECT_EQ(0, attrib.Count(RGB(0, 128, 0)));
 }
 
+// A bitmap can be selected into one context only: MFC selects it into the output handle.
+TEST_F(SplitHandles, BitmapGoesToTheOutputHandleOnly)
+{
+    HGDIOBJ outputBitmap = GetCurrentObject(split.m_hDC, OBJ_BITMAP);
+    HGDIOBJ attribBitmap = GetCurrentObject(split.m_hAttribDC, OBJ_BITMAP);
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateBitmap(8, 8, 1, 32, nullptr));
+    CBitmap* previous = split.SelectObject(&bitmap);
+    ASSERT_NE(nullptr, previous);
+    EXPECT_EQ(outputBitmap, previous->m_hObject);
+    EXPECT_EQ(bitmap.m_hObject, GetCurrentObject(split.m_hDC, OBJ_BITMAP));
+    EXPECT_EQ(attribBitmap, GetCurrentObject(split.m_hAttribDC, OBJ_BITMAP));
+    split.SelectObject(previous);
+    EXPECT_EQ(outputBitmap, GetCurrentObject(split.m_hDC, OBJ_BITMAP));
+}
+
+TEST_F(SplitHandles, ClippingActsOnBothHandles)
+{
+    EXPECT_EQ(SIMPLEREGION, split.IntersectClipRect(1, 2, 5, 6));
+    for (HDC hdc : {split.m_hDC, split.m_hAttribDC}) {
+        RECT box;
+        EXPECT_EQ(SIMPLEREGION, GetClipBox(hdc, &box));
+        EXPECT_EQ(CRect(1, 2, 5, 6), box);
+    }
+    SelectClipRgn(split.m_hDC, nullptr);
+    SelectClipRgn(split.m_hAttribDC, nullptr);
+}
+
+TEST_F(SplitHandles, CurrentObjectsComeFromTheAttributeHandle)
+{
+    EXPECT_EQ(&large, split.GetCurrentFont());
+    EXPECT_EQ(GetCurrentObject(split.m_hAttribDC, OBJ_BITMAP), split.GetCurrentBitmap()->m_hObject);
+}
+
 TEST(CDC, GetNearestColorOnATrueColourSurface)
 {
     DibCanvas canvas(2, 2);

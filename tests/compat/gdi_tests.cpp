@@ -82,6 +82,15 @@ TEST(CBitmap, CreateCompatibleBitmapHasTheSize)
     EXPECT_EQ(13, info.bmHeight);
 }
 
+TEST(CBitmap, AnAbsurdSizeFailsAndLeavesNoHandle)
+{
+    CClientDC screen(nullptr);
+    CBitmap bitmap;
+    EXPECT_FALSE(bitmap.CreateCompatibleBitmap(&screen, 1 << 30, 1 << 30));
+    EXPECT_EQ(nullptr, bitmap.m_hObject);
+    EXPECT_EQ(nullptr, bitmap.GetSafeHandle());
+}
+
 // A window handle that names no window gets no device context: the constructor throws the
 // framework's resource exception, by pointer.
 TEST(CResourceException, ThrownByPointerWhenAClientDCCannotBeMade)

@@ -5,6 +5,7 @@
 #include "kiv_skin/display/image_manager.h"
 #include "support/bitmap_files.h"
 #include "support/dc_state.h"
+#include "support/dib_canvas.h"
 #include "support/test_files.h"
 #include <gtest/gtest.h>
 
@@ -314,7 +315,32 @@ TEST_F(ImageManagerTest, AbsurdCellSizesDoNotBreakLoading)
     std::string body = List("huge", "strip.bmp", Cell("h0"), "width=\"2000000000\" height=\"2000000000\"") +
                        Image("after", "picture.bmp");
     ASSERT_EQ(1, images.loadImageConfig(WriteConfig(body)));
-    EXPECT_NE(nullptr, images.getBitmap("after"));
+    // A cell whose bitmap cannot be made is left out rather than handed out without a handle.
+    EXPECT_EQ(nullptr, images.getBitmap("h0"));
+    const CBitmap* after = images.getBitmap("after");
+    ASSERT_NE(nullptr, after);
+    EXPECT_NE(nullptr, after->m_hObject);
+}
+
+// The strip's own list, drawn cell by cell with ImageList_Draw, gives each cell's pixels.
+TEST_F(ImageManagerTest, TheStripsListDrawsEveryCell)
+{
+    PixelGrid strip = Strip(3, 1);
+    WriteBmp("strip.bmp", strip);
+    ASSERT_EQ(1, images.loadImageConfig(WriteConfig(List("s", "strip.bmp", Cell("c0") + Cell("c1") + Cell("c2")))));
+    const CImageList* list = images.getImageList("s");
+    ASSERT_NE(nullptr, list);
+    ASSERT_NE(nullptr, list->m_hImageList);
+    ASSERT_EQ(3, list->GetImageCount());
+    for (int i = 0; i < 3; ++i) {
+        DibCanvas canvas(kCellWidth, kCellHeight, kWhite);
+        ASSERT_TRUE(ImageList_Draw(*list, i, canvas.dc()->m_hDC, 0, 0, ILD_NORMAL)) << i;
+        PixelGrid expected = CellOf(strip, i);
+        for (int y = 0; y < kCellHeight; ++y) {
+            for (int x = 0; x < kCellWidth; ++x)
+                EXPECT_EQ(expected.At(x, y), canvas.Pixel(x, y)) << "cell " << i << " at " << x << "," << y;
+        }
+    }
 }
 
 // ---- Loading and reloading ----
@@ -384,6 +410,32 @@ TEST_F(ImageManagerTest, TheRootElementMayHaveAnyName)
     WriteFileBytes(folder.Path("other.xml"), "<anything>" + Image("a", "picture.bmp") + "</anything>");
     ASSERT_EQ(1, images.loadImageConfig(folder.Path("other.xml").c_str()));
     EXPECT_NE(nullptr, images.getBitmap("a"));
+}
+
+// Failure paths leak nothing either: missing and unreadable bitmaps, strips without a bitmap,
+// absurd cells and broken XML.
+TEST_F(ImageManagerTest, FailedLoadsLeakNoGdiObject)
+{
+    WriteBmp("picture.bmp", SolidGrid(3, 3, RGB(0, 128, 0)));
+    WriteBmp("strip.bmp", Strip(2));
+    WriteFileBytes(folder.Path("text.bmp"), "not a bitmap");
+    CString missing = WriteConfig(Image("gone", "absent.bmp") + List("s", "absent.bmp", Cell("c")) +
+                                      Image("pic", "picture.bmp"), "missing.xml");
+    CString unreadable = WriteConfig(Image("text", "text.bmp") + List("t", "text.bmp", Cell("c")) +
+                                         List("huge", "strip.bmp", Cell("h"), "width=\"2000000000\" height=\"3\""),
+                                     "unreadable.xml");
+    WriteFileBytes(folder.Path("broken.xml"), "<images><image name=\"a\" </images>");
+    CString broken = folder.Path("broken.xml").c_str();
+    auto cycle = [&] {
+        ASSERT_EQ(1, images.loadImageConfig(missing));
+        ASSERT_EQ(1, images.loadImageConfig(unreadable));
+        ASSERT_EQ(0, images.loadImageConfig(broken));
+    };
+    cycle();
+    int before = GdiProbeSlot();
+    for (int i = 0; i < 300; ++i) cycle();
+    EXPECT_EQ(before, GdiProbeSlot());
+    EXPECT_EQ(nullptr, images.getBitmap("gone"));
 }
 
 TEST_F(ImageManagerTest, ReloadingAThousandTimesLeaksNoGdiObject)

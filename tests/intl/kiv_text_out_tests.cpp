@@ -52,6 +52,14 @@ void ExpectSameDrawing(const std::function<void(CDC*)>& ours, const std::functio
 {
     DibCanvas mine(160, 48), reference(160, 48);
     CjkFont fontMine(mine.dc()->m_hDC), fontReference(reference.dc()->m_hDC);
+    // The comparison means something only if the CJK font asked for is the one selected and it
+    // has glyphs for the Chinese text.
+    wchar_t face[LF_FACESIZE] = L"";
+    GetTextFaceW(mine.dc()->m_hDC, LF_FACESIZE, face);
+    ASSERT_STREQ(L"WenQuanYi Zen Hei", face);
+    WORD glyphs[3] = {};
+    ASSERT_EQ(3u, GetGlyphIndicesW(mine.dc()->m_hDC, kChineseW, 3, glyphs, GGI_MARK_NONEXISTING_GLYPHS));
+    for (WORD glyph : glyphs) ASSERT_NE(0xFFFF, glyph);
     DcStateCheck check(mine.dc());
     ours(mine.dc());
     direct(reference.dc()->m_hDC);

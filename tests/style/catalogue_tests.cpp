@@ -28,9 +28,14 @@ protected:
 
 }  // namespace
 
+// What one caller loads, every later caller of Instance() sees.
 TEST_F(CatalogueTest, InstanceIsASingleton)
 {
-    EXPECT_EQ(StyleCatalogue::Instance(), catalogue);
+    ASSERT_EQ(1, Load("<style name=\"shared\" default=\"1\" />"));
+    StyleCatalogue* later = StyleCatalogue::Instance();
+    ASSERT_EQ(1u, later->m_entries.size());
+    EXPECT_STREQ("shared", later->m_entries[0].name);
+    EXPECT_STREQ("shared", later->m_strDefaultName);
 }
 
 TEST_F(CatalogueTest, ReadsStylesInOrderWithFullPaths)

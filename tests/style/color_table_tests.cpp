@@ -300,4 +300,7 @@ TEST_F(ColorTableTest, SavingDoesNotChangeTheTable)
     ASSERT_TRUE(SaveColors(table, Path("c.xml")));
     ASSERT_EQ(1u, table.entries.size());
     EXPECT_EQ(5u, table.defaultColor);
+    ColorTable saved;
+    ASSERT_EQ(1, LoadColors(saved, Path("c.xml")));
+    EXPECT_EQ(0x000000FFu, LookupColor(saved, "UP"));
 }

@@ -1,5 +1,6 @@
 #include "support/test_files.h"
-#include <windows.h>
+#include <afxwin.h>
+#include <gtest/gtest.h>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -31,11 +32,26 @@ ScratchDir::~ScratchDir()
     std::filesystem::remove_all(m_dir, ignored);
 }
 
+// Creates every folder of path above its last component. Folders are found on whole characters
+// of the ANSI code page, so a folder named with a Big5 or GBK character whose second byte is
+// 0x5C stays one folder.
+void CreateParentFolders(const std::string& path)
+{
+    CString full(path.c_str());
+    for (int slash = full.Find('\\', 3); slash >= 0; slash = full.Find('\\', slash + 1))
+        CreateDirectoryA(full.Left(slash), nullptr);
+}
+
 void WriteFileBytes(const std::string& path, const std::string& bytes)
 {
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    CreateParentFolders(path);
+    HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    DWORD written = 0;
+    bool ok = file != INVALID_HANDLE_VALUE &&
+              WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+              written == bytes.size();
+    if (file != INVALID_HANDLE_VALUE) ok = CloseHandle(file) && ok;
+    if (!ok) ADD_FAILURE() << "cannot write the fixture file " << path;
 }
 
 std::string ReadFileBytes(const std::string& path)

@@ -23,6 +23,7 @@ private:
 // The running executable's folder, ending in a backslash.
 std::string ExeDir();
 
+// Writes bytes to path, creating its folders; a write that fails fails the running test.
 void WriteFileBytes(const std::string& path, const std::string& bytes);
 std::string ReadFileBytes(const std::string& path);
 bool FileExists(const std::string& path);
