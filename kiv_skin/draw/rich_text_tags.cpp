@@ -5,7 +5,7 @@
 #include "kiv_skin/module.h"
 #include <cstdio>
 #include <cstdlib>
-#include <vector>
+#include <algorithm>
 
 namespace kiv_skin {
 namespace {
@@ -123,16 +123,6 @@ void Italic(sDCStats& s, DrawFormatText& run)
     });
 }
 
-std::vector<std::wstring> Lines(const std::wstring& text)
-{
-    std::vector<std::wstring> lines;
-    size_t start = 0;
-    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring::npos; start = feed + 1)
-        lines.push_back(text.substr(start, feed - start));
-    lines.push_back(text.substr(start));
-    return lines;
-}
-
 CSize WideExtent(CDC* dc, const std::wstring& text)
 {
     SIZE size = {0, 0};
@@ -140,24 +130,35 @@ CSize WideExtent(CDC* dc, const std::wstring& text)
     return CSize(size);
 }
 
+// Calls each(line) for every line of text, split at line feeds (a trailing one gives a last,
+// empty line); a text without line feeds is passed on as it is.
+template <class Each> void ForEachLine(const std::wstring& text, Each each)
+{
+    size_t start = 0;
+    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring::npos; start = feed + 1)
+        each(text.substr(start, feed - start));
+    each(start == 0 ? text : text.substr(start));
+}
+
 // Text, line by line: the first line in the run's whole height, each further one a row lower.
+// The width is measured while measuring; the drawing pass has it in the run's rectangle.
 void Text(sDCStats& s, DrawFormatText& run)
 {
-    std::vector<std::wstring> lines = Lines(kiv_base::text::AnsiToUtf(run.value));
-    int rowHeight = s.rowHeight >= 0 ? s.rowHeight : WideExtent(s.dc, lines.front()).cy;
-    run.width = 0;
-    for (const std::wstring& line : lines) {
-        int width = WideExtent(s.dc, line).cx;
-        if (width > run.width) run.width = width;
+    std::wstring text = kiv_base::text::AnsiToUtf(run.value);
+    if (!run.draw) {
+        run.width = 0;
+        ForEachLine(text, [&](const std::wstring& line) { run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx); });
+        return;
     }
-    if (!run.draw) return;
+    int rowHeight = s.rowHeight;
+    if (rowHeight < 0) rowHeight = WideExtent(s.dc, text.substr(0, text.find(L'\n'))).cy;
     CRect area(run.rect);
-    for (const std::wstring& line : lines) {
+    ForEachLine(text, [&](const std::wstring& line) {
         int count = 0;
         KivDraw::TextOutLimitWidth(s.dc, &area, line, count, CRect(0, 0, 0, 0), 0);
         area.top += rowHeight;
         area.bottom = area.top + rowHeight;
-    }
+    });
     run.draw = 0;
 }
 

@@ -124,10 +124,12 @@ int ReadColors(ColorTable& table, TiXmlDocument* doc)
     return 1;
 }
 
+// Keys match byte for byte, so equal bytes are all a look-up compares (drawing code looks up
+// colours at every paint).
 COLORREF LookupColor(const ColorTable& table, const CString& name)
 {
     for (const ColorEntry& entry : table.entries) {
-        if (entry.name == name) return entry.color;
+        if (entry.name.GetLength() == name.GetLength() && std::strcmp(entry.name, name) == 0) return entry.color;
     }
     return table.defaultColor;
 }
