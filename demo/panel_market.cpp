@@ -53,8 +53,8 @@ void DrawMover(CDC* dc, KivDraw& kit, const Mover& mover, const CRect& row)
     const Column columns[] = {{150, DT_LEFT}, {80, DT_RIGHT}, {90, DT_RIGHT}, {0, DT_RIGHT}};
     std::vector<CRect> cells = Cells(row, columns, 4);
     std::string trend = std::string("<*sc=") + TrendKey(mover.trend) + "*>";
-    // The blank after the name keeps its last character whole: the scheme font under Wine
-    // measures its Chinese characters a unit narrower than it draws them.
+    // The blank after the name keeps its last character whole: without it the scheme font under
+    // Wine cuts the right edge off the run's last Chinese character.
     MarkupCell(dc, std::string("<*sc=PLUG_TIME_COLOR1*>") + mover.code + "<*sc*>  " + mover.name + " ", cells[0], TA_LEFT);
     MarkupCell(dc, trend + mover.last, cells[1], TA_RIGHT);
     {
