@@ -48,10 +48,13 @@ void MarkupCell(CDC* dc, const std::string& markup, CRect cell, UINT align)
     dc->SetTextAlign(previous);
 }
 
+// Columns under the quote table's: code and name, last, change, change %, and the trend's image
+// where the table has its volume.
+const Column kMoverColumns[] = {{148, DT_LEFT}, {72, DT_RIGHT}, {64, DT_RIGHT}, {70, DT_RIGHT}, {0, DT_RIGHT}};
+
 void DrawMover(CDC* dc, KivDraw& kit, const Mover& mover, const CRect& row)
 {
-    const Column columns[] = {{150, DT_LEFT}, {80, DT_RIGHT}, {90, DT_RIGHT}, {0, DT_RIGHT}};
-    std::vector<CRect> cells = Cells(row, columns, 4);
+    std::vector<CRect> cells = Cells(row, kMoverColumns, static_cast<int>(std::size(kMoverColumns)));
     std::string trend = std::string("<*sc=") + TrendKey(mover.trend) + "*>";
     // The blank after the name keeps its last character whole: without it the scheme font under
     // Wine cuts the right edge off the run's last Chinese character.
@@ -64,7 +67,8 @@ void DrawMover(CDC* dc, KivDraw& kit, const Mover& mover, const CRect& row)
         kit.DrawUL(dc, cells[2].right - kCellInset, top, mover.change, 1);
         dc->SetTextAlign(previous);
     }
-    MarkupCell(dc, trend + mover.percent + "<*si=" + TrendImage(mover.trend) + "*>", cells[3], TA_RIGHT);
+    MarkupCell(dc, trend + mover.percent, cells[3], TA_RIGHT);
+    MarkupCell(dc, std::string("<*si=") + TrendImage(mover.trend) + "*>", cells[4], TA_RIGHT);
 }
 
 // The price at minute m of a made-up trading day: a drift up with two swings on it.
