@@ -104,18 +104,24 @@ void DrawQuoteTable(Painter& p, const CRect& band)
     }
 }
 
-// --- Sectors ---------------------------------------------------------------------------------
+// --- Section headings ----------------------------------------------------------------------
 
-void DrawSectorHeading(Painter& p, const CRect& band)
+// A grooved heading over a section, in the title font.
+void DrawHeading(Painter& p, const CRect& band, const char* title)
 {
     CRect text(band.left + kCellInset, band.top, band.right, band.bottom);
     const char* font = "PLUG_TITLE";
-    WriteText(p.dc, kSectorHeading, text, font, SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kCellLine);
-    int textWidth = TextWidth(p.dc, kSectorHeading, font);
+    WriteText(p.dc, title, text, font, SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kCellLine);
     int middle = band.top + band.Height() / 2;
-    CRect groove(text.left + textWidth + 8, middle - 3, band.right - kCellInset, middle + 3);
+    CRect groove(text.left + TextWidth(p.dc, title, font) + 8, middle - 3, band.right - kCellInset, middle + 3);
     KivDraw::DrawTitleLine(p.dc, &groove, SchemeColor("PLUG_FRAME"));
 }
+
+void DrawSectorHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kSectorHeading); }
+void DrawMoverHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kMoverHeading); }
+void DrawChartHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kChartHeading); }
+
+// --- Sectors ---------------------------------------------------------------------------------
 
 // Name, change, and the leading stock, set off from the change by a gap.
 const Column kSectorColumns[] = {{80, DT_LEFT}, {66, DT_RIGHT}, {16, DT_LEFT}, {0, DT_LEFT}};
@@ -148,18 +154,6 @@ void DrawStatusLine(Painter& p, const CRect& band)
 
 // --- Movers, chart and volume ratio ----------------------------------------------------------
 
-// A grooved heading over a section, in the title font.
-void DrawHeading(Painter& p, const CRect& band, const char* title)
-{
-    CRect text(band.left + kCellInset, band.top, band.right, band.bottom);
-    WriteText(p.dc, title, text, "PLUG_TITLE", SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kCellLine);
-    int middle = band.top + band.Height() / 2;
-    CRect groove(text.left + TextWidth(p.dc, title, "PLUG_TITLE") + 8, middle - 3, band.right - kCellInset, middle + 3);
-    KivDraw::DrawTitleLine(p.dc, &groove, SchemeColor("PLUG_FRAME"));
-}
-
-void DrawMoverHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kMoverHeading); }
-void DrawChartHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kChartHeading); }
 void DrawMovers(Painter& p, const CRect& band) { DrawMoverList(p.dc, p.kit, band); }
 void DrawChart(Painter& p, const CRect& band) { DrawIntradayChart(p.dc, p.kit, band); }
 void DrawRatio(Painter& p, const CRect& band) { DrawVolumeRatio(p.dc, p.kit, band); }
