@@ -1,5 +1,6 @@
 #include "demo/gallery.h"
 #include "demo/console.h"
+#include "demo/markup_sheet.h"
 #include "demo/panel.h"
 #include "demo/picture.h"
 #include "demo/piece_sheet.h"
@@ -38,10 +39,10 @@ bool RenderPanel(const CString& scheme, const std::string& folder)
     return Save(panel, folder, scheme, "panel");
 }
 
-// "The drawing kit in <scheme> (<its description>)", in UTF-8.
-std::string SheetTitle(const CString& scheme)
+// "<subject> in <scheme> (<its description>)", in UTF-8.
+std::string SheetTitle(const char* subject, const CString& scheme)
 {
-    std::string title = std::string("The drawing kit in ") + static_cast<const char*>(scheme);
+    std::string title = std::string(subject) + " in " + static_cast<const char*>(scheme);
     CString name = scheme;
     kiv_skin::StyleEntry entry;
     if (kiv_skin::StyleCatalogue::Instance()->FindStyle(name, entry) && !entry.des.IsEmpty())
@@ -53,8 +54,16 @@ bool RenderSheet(const CString& scheme, const std::string& folder)
 {
     CSize size = PieceSheetSize();
     Picture sheet(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
-    DrawPieceSheet(sheet.dc(), SheetTitle(scheme).c_str());
+    DrawPieceSheet(sheet.dc(), SheetTitle("The drawing kit", scheme).c_str());
     return Save(sheet, folder, scheme, "pieces");
+}
+
+bool RenderMarkupSheet(const CString& scheme, const std::string& folder)
+{
+    CSize size = MarkupSheetSize();
+    Picture sheet(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
+    DrawMarkupSheet(sheet.dc(), SheetTitle("Rich-text markup", scheme).c_str());
+    return Save(sheet, folder, scheme, "markup");
 }
 
 }  // namespace
@@ -68,7 +77,8 @@ bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
         return false;
     }
     bool panelSaved = RenderPanel(scheme, folder);
-    return RenderSheet(scheme, folder) && panelSaved;
+    bool sheetSaved = RenderSheet(scheme, folder);
+    return RenderMarkupSheet(scheme, folder) && sheetSaved && panelSaved;
 }
 
 bool RenderGallery(const std::string& folder)

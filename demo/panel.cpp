@@ -1,6 +1,7 @@
 #include "demo/panel.h"
 #include "demo/panel_cells.h"
 #include "demo/panel_data.h"
+#include "demo/panel_market.h"
 #include "demo/scheme_text.h"
 #include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/draw/plugin_title.h"
@@ -15,6 +16,7 @@ const int kWidth = 440;
 const int kRow = 20;
 const int kToolbarHeight = 28;
 const int kButton = 22;
+const int kChartHeight = 132;
 
 // What every section paints with: the context, and the kit's brushes of the active scheme.
 struct Painter {
@@ -102,18 +104,24 @@ void DrawQuoteTable(Painter& p, const CRect& band)
     }
 }
 
-// --- Sectors ---------------------------------------------------------------------------------
+// --- Section headings ----------------------------------------------------------------------
 
-void DrawSectorHeading(Painter& p, const CRect& band)
+// A grooved heading over a section, in the title font.
+void DrawHeading(Painter& p, const CRect& band, const char* title)
 {
     CRect text(band.left + kCellInset, band.top, band.right, band.bottom);
     const char* font = "PLUG_TITLE";
-    WriteText(p.dc, kSectorHeading, text, font, SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kCellLine);
-    int textWidth = TextWidth(p.dc, kSectorHeading, font);
+    WriteText(p.dc, title, text, font, SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kCellLine);
     int middle = band.top + band.Height() / 2;
-    CRect groove(text.left + textWidth + 8, middle - 3, band.right - kCellInset, middle + 3);
+    CRect groove(text.left + TextWidth(p.dc, title, font) + 8, middle - 3, band.right - kCellInset, middle + 3);
     KivDraw::DrawTitleLine(p.dc, &groove, SchemeColor("PLUG_FRAME"));
 }
+
+void DrawSectorHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kSectorHeading); }
+void DrawMoverHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kMoverHeading); }
+void DrawChartHeading(Painter& p, const CRect& band) { DrawHeading(p, band, kChartHeading); }
+
+// --- Sectors ---------------------------------------------------------------------------------
 
 // Name, change, and the leading stock, set off from the change by a gap.
 const Column kSectorColumns[] = {{80, DT_LEFT}, {66, DT_RIGHT}, {16, DT_LEFT}, {0, DT_LEFT}};
@@ -144,6 +152,12 @@ void DrawStatusLine(Painter& p, const CRect& band)
     WriteCutCell(p.dc, kNews, news, SchemeColor("EQUTEXT"));
 }
 
+// --- Movers, chart and volume ratio ----------------------------------------------------------
+
+void DrawMovers(Painter& p, const CRect& band) { DrawMoverList(p.dc, p.kit, band); }
+void DrawChart(Painter& p, const CRect& band) { DrawIntradayChart(p.dc, p.kit, band); }
+void DrawRatio(Painter& p, const CRect& band) { DrawVolumeRatio(p.dc, p.kit, band); }
+
 // --- Layout ----------------------------------------------------------------------------------
 
 // A band of the panel: its height and what paints it. The panel stacks them under its title.
@@ -157,6 +171,11 @@ const Section kSections[] = {
     {kRow * (1 + static_cast<int>(std::size(kQuotes))), DrawQuoteTable},
     {kRow + 2, DrawSectorHeading},
     {kRow * static_cast<int>(std::size(kSectors)), DrawSectorTable},
+    {kRow + 2, DrawMoverHeading},
+    {kRow * kMoverRows, DrawMovers},
+    {kRow + 2, DrawChartHeading},
+    {kChartHeight, DrawChart},
+    {kRow + 4, DrawRatio},
     {kRow, DrawStatusLine},
 };
 

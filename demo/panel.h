@@ -1,6 +1,7 @@
 // A mock quote panel of a plug-in, painted with the drawing kit in the active scheme: frame, a
-// title bar, a toolbar of icon buttons, a quote table with a selected row, a grooved section
-// heading with a sector table, and a status line whose news text is cut to its width.
+// title bar, a toolbar of icon buttons, a quote table with a selected row, grooved section
+// headings over a sector table, a movers list in rich text, an intraday chart and the buy/sell
+// volume ratio, and a status line whose news text is cut to its width.
 #pragma once
 #include <afxwin.h>
 

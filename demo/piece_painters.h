@@ -34,3 +34,17 @@ void MixColorPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
 void Lit3DColorPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
 void ButtonColorsPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
 void DarkBackgroundPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+
+// Rich text, prices, gauges, axes, marks and icons.
+void RichTextPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void PricesPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void FlatBarsPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void ShadedBarsPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void HorizontalAxisPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void VerticalAxisPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void ArrowButtonsPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void MarksPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void FramedMarksPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void ScaledMarksPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void LightIconsPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+void AutoDarkIconsPiece(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);

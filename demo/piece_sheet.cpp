@@ -1,6 +1,7 @@
 #include "demo/piece_sheet.h"
 #include "demo/pieces.h"
 #include "demo/scheme_text.h"
+#include <vector>
 
 using kiv_skin::KivDraw;
 
@@ -9,18 +10,37 @@ namespace {
 const int kColumns = 4;
 const int kMargin = 12;
 const int kCellWidth = 172;
-const int kPieceHeight = 52;
+const int kPieceHeight = 60;
 const int kLabelHeight = 20;
 const int kCellGap = 8;
 const int kHeading = 30;
+const int kRowPitch = kPieceHeight + kLabelHeight + kCellGap;
 const UINT kLine = DT_SINGLELINE | DT_VCENTER;
 
-int RowCount() { return (kPieceCount + kColumns - 1) / kColumns; }
+// Where each piece goes, in columns and rows: left to right, a piece too wide for what is left
+// of its row starting the next one.
+std::vector<CPoint> Places()
+{
+    std::vector<CPoint> places;
+    int column = 0, row = 0;
+    for (int i = 0; i < kPieceCount; ++i) {
+        if (column + kPieces[i].columns > kColumns) {
+            column = 0;
+            ++row;
+        }
+        places.emplace_back(column, row);
+        column += kPieces[i].columns;
+    }
+    return places;
+}
+
+int RowCount() { return kPieceCount ? Places().back().y + 1 : 0; }
 
 // One cell: the piece on the panel's background, its name centred below.
 void DrawCell(CDC* dc, KivDraw& kit, const Piece& piece, int left, int top)
 {
-    CRect area(left, top, left + kCellWidth, top + kPieceHeight);
+    int width = piece.columns * kCellWidth + (piece.columns - 1) * kCellGap;
+    CRect area(left, top, left + width, top + kPieceHeight);
     KivDraw::FillRect(dc, &area, SchemeColor("PLUG_BGCOLOR"));
     piece.draw(dc, kit, area);
     CRect label(left, area.bottom, area.right, area.bottom + kLabelHeight);
@@ -32,7 +52,7 @@ void DrawCell(CDC* dc, KivDraw& kit, const Piece& piece, int left, int top)
 CSize PieceSheetSize()
 {
     int width = 2 * kMargin + kColumns * kCellWidth + (kColumns - 1) * kCellGap;
-    int height = kHeading + RowCount() * (kPieceHeight + kLabelHeight + kCellGap) + kMargin - kCellGap;
+    int height = kHeading + RowCount() * kRowPitch + kMargin - kCellGap;
     return CSize(width, height);
 }
 
@@ -43,9 +63,9 @@ void DrawPieceSheet(CDC* dc, const char* title)
     CRect heading(kMargin, 0, size.cx - kMargin, kHeading);
     WriteText(dc, title, heading, "PLUG_TITLE", SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kLine);
     KivDraw kit;
+    std::vector<CPoint> places = Places();
     for (int i = 0; i < kPieceCount; ++i) {
-        int left = kMargin + (i % kColumns) * (kCellWidth + kCellGap);
-        int top = kHeading + (i / kColumns) * (kPieceHeight + kLabelHeight + kCellGap);
-        DrawCell(dc, kit, kPieces[i], left, top);
+        int left = kMargin + places[i].x * (kCellWidth + kCellGap);
+        DrawCell(dc, kit, kPieces[i], left, kHeading + places[i].y * kRowPitch);
     }
 }

@@ -7,6 +7,7 @@
 struct Piece {
     const char* name;
     void (*draw)(CDC* dc, kiv_skin::KivDraw& kit, const CRect& area);
+    int columns = 1;  // how many of the sheet's columns the piece spans
 };
 
 extern const Piece kPieces[];

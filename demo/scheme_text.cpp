@@ -1,4 +1,6 @@
 #include "demo/scheme_text.h"
+#include "kiv_base/text.h"
+#include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/intl/kiv_text_out.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 
@@ -49,4 +51,21 @@ int LineHeight(CDC* dc, const char* fontKey)
     TEXTMETRICA metrics = {};
     dc->GetTextMetrics(&metrics);
     return metrics.tmHeight;
+}
+
+std::string Utf8ToAnsi(const char* utf8)
+{
+    std::wstring wide = kiv_base::text::Utf8toUtf16(utf8);
+    int n = ::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), static_cast<int>(wide.size()), nullptr, 0, nullptr, nullptr);
+    std::string ansi(n > 0 ? n : 0, '\0');
+    if (n > 0)
+        ::WideCharToMultiByte(CP_ACP, 0, wide.c_str(), static_cast<int>(wide.size()), &ansi[0], n, nullptr, nullptr);
+    return ansi;
+}
+
+void WriteRichText(CDC* dc, const char* markup, const CRect& box, const char* fontKey, COLORREF color)
+{
+    int top = (box.Height() - LineHeight(dc, fontKey)) / 2;
+    SchemeTextStyle style(dc, fontKey, color);
+    kiv_skin::KivDraw::DrawRichText(dc, &box, Utf8ToAnsi(markup).c_str(), CRect(0, top, 0, 0), 0, 100);
 }

@@ -2,6 +2,7 @@
 // UTF-8 texts in them.
 #pragma once
 #include <afxwin.h>
+#include <string>
 
 COLORREF SchemeColor(const char* key);
 // The scheme's font of that key, or null.
@@ -30,3 +31,8 @@ void WriteText(CDC* dc, const char* text, CRect box, const char* fontKey, COLORR
 int TextWidth(CDC* dc, const char* text, const char* fontKey);
 // Height of a line of the scheme's font.
 int LineHeight(CDC* dc, const char* fontKey);
+// The ANSI code page's form of a UTF-8 text, as rich text and the kit's narrow calls take it.
+std::string Utf8ToAnsi(const char* utf8);
+// Markup (UTF-8) drawn by the kit's rich text on one line of box, vertically centred, starting
+// from the scheme's font of fontKey and color.
+void WriteRichText(CDC* dc, const char* markup, const CRect& box, const char* fontKey, COLORREF color);

@@ -2,7 +2,9 @@
 // panel's file holds exactly what the panel paints, and the scheme's colours are where the panel
 // and the sheet put them.
 #include "demo/gallery.h"
+#include "demo/markup_sheet.h"
 #include "demo/panel.h"
+#include "demo/panel_market.h"
 #include "demo/piece_sheet.h"
 #include "demo/png_writer.h"
 #include "kiv_skin/draw/plugin_title.h"
@@ -35,6 +37,23 @@ int Count(const DecodedPng& png, COLORREF color)
     return n;
 }
 
+// Pixels of exactly color inside rect of a decoded picture.
+int CountIn(const DecodedPng& png, const CRect& rect, COLORREF color)
+{
+    int n = 0;
+    for (int y = rect.top; y < rect.bottom; ++y)
+        for (int x = rect.left; x < rect.right; ++x) n += png.Color(x, y) == color ? 1 : 0;
+    return n;
+}
+
+int CountIn(DibCanvas& canvas, const CRect& rect, COLORREF color)
+{
+    int n = 0;
+    for (int y = rect.top; y < rect.bottom; ++y)
+        for (int x = rect.left; x < rect.right; ++x) n += canvas.Pixel(x, y) == color ? 1 : 0;
+    return n;
+}
+
 int OpaquePixels(const DecodedPng& png)
 {
     int n = 0;
@@ -54,6 +73,7 @@ protected:
         s_written = RenderSchemeGallery("dark", s_folder->dir());
         s_panel = ReadPng(Wide(s_folder->Path("dark_panel.png")));
         s_sheet = ReadPng(Wide(s_folder->Path("dark_pieces.png")));
+        s_markup = ReadPng(Wide(s_folder->Path("dark_markup.png")));
     }
     static void TearDownTestSuite() { s_folder.reset(); }
 
@@ -63,11 +83,12 @@ protected:
         ASSERT_TRUE(s_written);
         ASSERT_EQ(S_OK, s_panel.result);
         ASSERT_EQ(S_OK, s_sheet.result);
+        ASSERT_EQ(S_OK, s_markup.result);
     }
 
     static std::unique_ptr<ScratchDir> s_folder;
     static bool s_initialised, s_written;
-    static DecodedPng s_panel, s_sheet;
+    static DecodedPng s_panel, s_sheet, s_markup;
 };
 
 std::unique_ptr<ScratchDir> DarkGallery::s_folder;
@@ -75,6 +96,7 @@ bool DarkGallery::s_initialised = false;
 bool DarkGallery::s_written = false;
 DecodedPng DarkGallery::s_panel;
 DecodedPng DarkGallery::s_sheet;
+DecodedPng DarkGallery::s_markup;
 
 TEST_F(DarkGallery, WritesOpaqueBgraPngFilesOfThePanelAndTheSheet)
 {
@@ -137,12 +159,99 @@ TEST_F(DarkGallery, SheetHasItsSizeBackgroundAndNames)
     EXPECT_GT(Count(s_sheet, Scheme("PLUG_BTN_BGCOLOR_PRESSED")), 3 * 250);
 }
 
+TEST_F(DarkGallery, SheetShowsMarksBarsAndIconsInTheTrendColours)
+{
+    // Marks, prices, rich text and four rows of percentage bars, rising and falling.
+    EXPECT_GT(Count(s_sheet, Scheme("UPTEXT")), 1500);
+    EXPECT_GT(Count(s_sheet, Scheme("DOWNTEXT")), 1500);
+    EXPECT_GT(Count(s_sheet, Scheme("AXIS")), 200);  // two axes, their ticks, labels and titles
+}
+
+TEST_F(DarkGallery, MarkupSheetHasItsSizeAndDrawsEachLinesColours)
+{
+    CSize size = MarkupSheetSize();
+    ASSERT_EQ(size.cx, s_markup.width);
+    ASSERT_EQ(size.cy, s_markup.height);
+    EXPECT_EQ(s_markup.width * s_markup.height, OpaquePixels(s_markup));
+    // "sc": rise, flat and fall in the scheme's three trend colours.
+    CRect trends = MarkupDrawnCell(3);
+    EXPECT_GT(CountIn(s_markup, trends, Scheme("UPTEXT")), 20);
+    EXPECT_GT(CountIn(s_markup, trends, Scheme("EQUTEXT")), 20);
+    EXPECT_GT(CountIn(s_markup, trends, Scheme("DOWNTEXT")), 20);
+    // "bkcolor": an opaque band of 0x2020C0 behind " LIMIT UP ", white text on it.
+    CRect limit = MarkupDrawnCell(4);
+    EXPECT_GT(CountIn(s_markup, limit, 0x2020C0), 500);
+    EXPECT_GT(CountIn(s_markup, limit, RGB(255, 255, 255)), 50);
+    // "sysbkcolor": the selection colour behind the code.
+    EXPECT_GT(CountIn(s_markup, MarkupDrawnCell(6), Scheme("PLUG_SELCOLOR")), 300);
+    // "syscolor" draws no background and nothing in the falling colour.
+    EXPECT_EQ(0, CountIn(s_markup, MarkupDrawnCell(2), Scheme("DOWNTEXT")));
+}
+
+class DarkPanelSections : public DarkGallery {
+protected:
+    static const int kWidth = 430, kRow = 20;
+};
+
+TEST_F(DarkPanelSections, MoverRowsAreInTheirTrendColours)
+{
+    DibCanvas canvas(kWidth, kMoverRows * kRow, Scheme("PLUG_BGCOLOR"));
+    kiv_skin::KivDraw kit;
+    DrawMoverList(canvas.dc(), kit, CRect(0, 0, kWidth, kMoverRows * kRow));
+    const char* trends[] = {"UPTEXT", "UPTEXT", "EQUTEXT", "DOWNTEXT", "DOWNTEXT"};
+    for (int i = 0; i < kMoverRows; ++i) {
+        CRect prices(160, i * kRow, kWidth, (i + 1) * kRow);  // last, change and percentage
+        bool rising = trends[i][0] == 'U', falling = trends[i][0] == 'D';
+        EXPECT_GT(CountIn(canvas, prices, Scheme(trends[i])), 40) << "row " << i;
+        if (falling) {
+            EXPECT_EQ(0, CountIn(canvas, prices, Scheme("UPTEXT"))) << "row " << i;
+        }
+        if (rising) {
+            EXPECT_EQ(0, CountIn(canvas, prices, Scheme("DOWNTEXT"))) << "row " << i;
+        }
+    }
+    // Codes in the time colour on the left.
+    EXPECT_GT(CountIn(canvas, CRect(0, 0, 60, kMoverRows * kRow), Scheme("PLUG_TIME_COLOR1")), 5 * 40);
+}
+
+TEST_F(DarkPanelSections, VolumeRatioBarIsRisingUpToItsSplitAndFallingBeyond)
+{
+    CRect band(0, 0, kWidth, 24);
+    DibCanvas canvas(kWidth, 24, Scheme("PLUG_BGCOLOR"));
+    kiv_skin::KivDraw kit;
+    DrawVolumeRatio(canvas.dc(), kit, band);
+    CRect bar = VolumeRatioBar(band);
+    int split = VolumeRatioSplit(bar);
+    // The lit strip starts in the colour itself on the bar's top row.
+    EXPECT_EQ(Scheme("UPTEXT"), canvas.Pixel(bar.left, bar.top));
+    EXPECT_EQ(Scheme("UPTEXT"), canvas.Pixel(split - 1, bar.top));
+    EXPECT_EQ(Scheme("DOWNTEXT"), canvas.Pixel(split, bar.top));
+    EXPECT_EQ(Scheme("DOWNTEXT"), canvas.Pixel(bar.right - 1, bar.top));
+    EXPECT_EQ(Scheme("PLUG_BGCOLOR"), canvas.Pixel(bar.left, bar.top - 1));
+    EXPECT_GT(CountIn(canvas, CRect(0, 0, bar.left, 24), Scheme("UPTEXT")), 40);      // 12.3万 58%
+    EXPECT_GT(CountIn(canvas, CRect(bar.right, 0, kWidth, 24), Scheme("DOWNTEXT")), 40);  // 42% 8.9万
+}
+
+TEST_F(DarkPanelSections, IntradayChartHasBothAxesAndThePriceLine)
+{
+    CRect band(0, 0, kWidth, 132);
+    DibCanvas canvas(kWidth, 132, Scheme("PLUG_BGCOLOR"));
+    kiv_skin::KivDraw kit;
+    DrawIntradayChart(canvas.dc(), kit, band);
+    int originX = 52, originY = 132 - 18;
+    EXPECT_EQ(Scheme("AXIS"), canvas.Pixel(originX, originY - 40));  // the price axis
+    EXPECT_EQ(Scheme("AXIS"), canvas.Pixel(originX + 100, originY));  // the minute axis
+    EXPECT_GT(CountIn(canvas, CRect(0, 0, originX, 132), Scheme("AXIS")), 100);  // price labels
+    EXPECT_GT(CountIn(canvas, CRect(originX + 1, 0, kWidth, originY), Scheme("EQUTEXT")), 240);
+}
+
 TEST_F(DarkGallery, UnknownSchemeWritesNothing)
 {
     ScratchDir folder;
     EXPECT_FALSE(RenderSchemeGallery("no_such_scheme", folder.dir()));
     EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_panel.png")));
     EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_pieces.png")));
+    EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_markup.png")));
 }
 
 TEST_F(DarkGallery, FolderThatCannotBeMadeFails)
