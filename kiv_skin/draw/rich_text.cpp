@@ -10,11 +10,13 @@ namespace {
 
 std::vector<DrawFormatText> Runs(const char* text)
 {
+    std::vector<MarkupRun> parsed = ParseRichTextMarkup(text);
     std::vector<DrawFormatText> runs;
-    for (MarkupRun& parsed : ParseRichTextMarkup(text)) {
+    runs.reserve(parsed.size());
+    for (MarkupRun& run : parsed) {
         runs.emplace_back();
-        runs.back().name.swap(parsed.name);
-        runs.back().value.swap(parsed.value);
+        runs.back().name.swap(run.name);
+        runs.back().value.swap(run.value);
     }
     return runs;
 }

@@ -22,6 +22,7 @@ std::vector<MarkupRun> ParseRichTextMarkup(const char* markup)
 {
     const std::string_view text(markup);
     std::vector<MarkupRun> runs;
+    runs.reserve(8);  // a typical caption's runs, without growing
     size_t pos = 0;
     while (pos < text.size()) {
         const size_t open = text.find(kTagOpen, pos);

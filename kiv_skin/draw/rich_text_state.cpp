@@ -5,7 +5,7 @@ namespace kiv_skin {
 
 sDCStats::sDCStats(CDC* pDC)
     : dc(pDC), textColor(pDC->GetTextColor()), bkColor(pDC->GetBkColor()), bkMode(pDC->GetBkMode()),
-      logFont(), font(new CFont)
+      logFont()
 {
     ::GetObjectA(::GetCurrentObject(pDC->m_hAttribDC, OBJ_FONT), sizeof(LOGFONTA), &logFont);
 }

@@ -28,7 +28,7 @@ struct sDCStats {
     COLORREF bkColor;
     int bkMode;
     LOGFONTA logFont;
-    CFont* font;                // the last font a font tag made; owned
+    CFont* font = nullptr;      // the last font a font tag made; owned, made with the first
     CFont* oldFont = nullptr;   // what was selected before the state first selected a font
     int rowHeight = -1;
 

@@ -80,6 +80,7 @@ template <class Change> void ChangeFont(sDCStats& s, DrawFormatText& run, Change
     CFont made;
     made.CreateFontIndirect(&font);
     s.Select(&made);  // selected before the state's previous font is deleted
+    if (s.font == nullptr) s.font = new CFont;
     s.font->DeleteObject();
     s.font->Attach(made.Detach());
 }
