@@ -19,48 +19,37 @@ bool ReadHex(const std::string& value, COLORREF& color)
     return true;
 }
 
-void SetInk(sDCStats& s, DrawFormatText& run, bool present, COLORREF color)
+// The colour a tag's value names: read as "%X", or looked up as a scheme key. False for an empty
+// or unreadable value.
+bool HexValue(const std::string& value, COLORREF& color) { return !value.empty() && ReadHex(value, color); }
+
+bool SchemeValue(const std::string& value, COLORREF& color)
 {
-    run.width = 0;
+    if (value.empty()) return false;
+    color = SchemeColor(value.c_str());
+    return true;
+}
+
+void SetInk(sDCStats& s, bool present, COLORREF color)
+{
     s.dc->SetTextColor(present ? s.Mixed(color) : s.textColor);
 }
 
 // An empty or unreadable background tag returns to the initial mode with the initial *text*
 // colour as background: that is how panels have always looked with an opaque context.
-void SetBack(sDCStats& s, DrawFormatText& run, bool present, COLORREF color)
+void SetBack(sDCStats& s, bool present, COLORREF color)
+{
+    s.dc->SetBkMode(present ? OPAQUE : s.bkMode);
+    s.dc->SetBkColor(present ? s.Mixed(color) : s.textColor);
+}
+
+template <bool (*Read)(const std::string&, COLORREF&), void (*Set)(sDCStats&, bool, COLORREF)>
+void ColorTag(sDCStats& s, DrawFormatText& run)
 {
     run.width = 0;
-    if (present) {
-        s.dc->SetBkMode(OPAQUE);
-        s.dc->SetBkColor(s.Mixed(color));
-    } else {
-        s.dc->SetBkMode(s.bkMode);
-        s.dc->SetBkColor(s.textColor);
-    }
-}
-
-void Color(sDCStats& s, DrawFormatText& run)
-{
     COLORREF color = 0;
-    bool read = !run.value.empty() && ReadHex(run.value, color);
-    SetInk(s, run, read, color);
-}
-
-void SchemeInk(sDCStats& s, DrawFormatText& run)
-{
-    SetInk(s, run, !run.value.empty(), run.value.empty() ? 0 : SchemeColor(run.value.c_str()));
-}
-
-void BackColor(sDCStats& s, DrawFormatText& run)
-{
-    COLORREF color = 0;
-    bool read = !run.value.empty() && ReadHex(run.value, color);
-    SetBack(s, run, read, color);
-}
-
-void SchemeBack(sDCStats& s, DrawFormatText& run)
-{
-    SetBack(s, run, !run.value.empty(), run.value.empty() ? 0 : SchemeColor(run.value.c_str()));
+    bool present = Read(run.value, color);
+    Set(s, present, color);
 }
 
 void SchemeFontTag(sDCStats& s, DrawFormatText& run)
@@ -200,8 +189,10 @@ void Link(sDCStats&, DrawFormatText&) {}
 std::map<std::string, RichTextTag>* MakeTags()
 {
     return new std::map<std::string, RichTextTag>{
-        {"color", Color},       {"c", Color},          {"syscolor", SchemeInk},   {"sc", SchemeInk},
-        {"bkcolor", BackColor}, {"bk", BackColor},     {"sysbkcolor", SchemeBack}, {"sysbk", SchemeBack},
+        {"color", ColorTag<HexValue, SetInk>},       {"c", ColorTag<HexValue, SetInk>},
+        {"syscolor", ColorTag<SchemeValue, SetInk>}, {"sc", ColorTag<SchemeValue, SetInk>},
+        {"bkcolor", ColorTag<HexValue, SetBack>},    {"bk", ColorTag<HexValue, SetBack>},
+        {"sysbkcolor", ColorTag<SchemeValue, SetBack>}, {"sysbk", ColorTag<SchemeValue, SetBack>},
         {"sysfont", SchemeFontTag}, {"sf", SchemeFontTag}, {"sysicon", Icon},      {"si", Icon},
         {"font", Face},         {"f", Face},           {"size", Size},            {"s", Size},
         {"bold", Bold},         {"b", Bold},           {"underline", Underline},  {"u", Underline},
