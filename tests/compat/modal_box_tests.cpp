@@ -1,4 +1,4 @@
-// AfxMessageBox and CFontDialog: the box a user sees, found from a timer and answered through
+// AfxMessageBox, CFontDialog and CColorDialog: the box a user sees, found from a timer and answered through
 // its own button.
 #include <afxdlgs.h>
 #include <afxwin.h>
@@ -124,4 +124,23 @@ TEST(CFontDialog, CancelAnswersIdcancel)
     EXPECT_EQ(static_cast<DWORD>(CF_EFFECTS | CF_SCREENFONTS), dialog.m_cf.Flags);
     Answerer answerer(IDCANCEL, "");
     EXPECT_EQ(IDCANCEL, dialog.DoModal());
+}
+
+TEST(CColorDialog, OkAnswersTheInitialColour)
+{
+    CColorDialog dialog(RGB(10, 20, 30), CC_SOLIDCOLOR);
+    EXPECT_EQ(static_cast<DWORD>(CC_SOLIDCOLOR | CC_RGBINIT), dialog.m_cc.Flags);
+    EXPECT_EQ(CColorDialog::GetSavedCustomColors(), dialog.m_cc.lpCustColors);
+    Answerer answerer(IDOK, "");
+    EXPECT_EQ(IDOK, dialog.DoModal());
+    EXPECT_EQ(RGB(10, 20, 30), dialog.GetColor());
+}
+
+TEST(CColorDialog, CancelAnswersIdcancelAndKeepsTheColour)
+{
+    CColorDialog dialog;
+    EXPECT_EQ(0u, dialog.m_cc.Flags);  // black is no initial colour
+    Answerer answerer(IDCANCEL, "");
+    EXPECT_EQ(IDCANCEL, dialog.DoModal());
+    EXPECT_EQ(RGB(0, 0, 0), dialog.GetColor());
 }
