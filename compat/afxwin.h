@@ -10,3 +10,5 @@
 #include "afxdc.h"
 #include "afxwnd.h"
 #include "afxmodule.h"
+#include "afxdialog.h"
+#include "afxboxes.h"

@@ -1,18 +1,31 @@
-// A minimal CWnd (a window handle with its text), CClientDC and CPaintDC.
+// CWnd: a window handle with the members a dialog needs, and the window procedure that routes a
+// subclassed window's messages through its message map; CClientDC and CPaintDC.
 #pragma once
 #include "afxdc.h"
+#include "afxmsg_.h"
 
 class CWnd;
 inline CHandleMap<CWnd, HWND>* afxMapHWND();
+inline LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
+inline LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 
-class CWnd {
+namespace afx_compat_detail {
+// The message the window procedure is handling on this thread, for CWnd::Default.
+inline MSG& LastSentMessage()
+{
+    thread_local MSG message = {};
+    return message;
+}
+}  // namespace afx_compat_detail
+
+class CWnd : public CCmdTarget {
 public:
     HWND m_hWnd = nullptr;
 
     CWnd() = default;
     CWnd(const CWnd&) = delete;
     CWnd& operator=(const CWnd&) = delete;
-    virtual ~CWnd() { if (m_hWnd != nullptr) DestroyWindow(); }
+    ~CWnd() override { if (m_hWnd != nullptr) DestroyWindow(); }
 
     operator HWND() const { return m_hWnd; }
     // Safe through a null pointer, as in MFC.
@@ -36,7 +49,36 @@ public:
     }
     static CWnd* FromHandle(HWND hWnd) { return afxMapHWND()->FromHandle(hWnd); }
     static CWnd* FromHandlePermanent(HWND hWnd) { return hWnd ? afxMapHWND()->LookupPermanent(hWnd) : nullptr; }
-    virtual BOOL DestroyWindow() { return m_hWnd ? ::DestroyWindow(Detach()) : FALSE; }
+    // A subclassed window detaches itself on WM_NCDESTROY; one that was only attached is
+    // detached here.
+    virtual BOOL DestroyWindow()
+    {
+        if (m_hWnd == nullptr) return FALSE;
+        BOOL destroyed = ::DestroyWindow(m_hWnd);
+        if (m_hWnd != nullptr) Detach();
+        return destroyed;
+    }
+
+    // Attaches the object and routes the window's messages through its message map; the
+    // window's own procedure handles what the map does not.
+    BOOL SubclassWindow(HWND hWnd)
+    {
+        if (!Attach(hWnd)) return FALSE;
+        m_pfnSuper = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtrA(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+        return TRUE;
+    }
+    BOOL SubclassDlgItem(UINT nID, CWnd* pParent)
+    {
+        HWND control = ::GetDlgItem(pParent->GetSafeHwnd(), nID);
+        return control != nullptr && SubclassWindow(control);
+    }
+    HWND UnsubclassWindow()
+    {
+        ::SetWindowLongPtrA(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
+        m_pfnSuper = nullptr;
+        return Detach();
+    }
 
     void SetWindowText(LPCSTR lpszString) { ::SetWindowTextA(m_hWnd, lpszString); }
     int GetWindowTextLength() const { return ::GetWindowTextLengthA(m_hWnd); }
@@ -47,8 +89,138 @@ public:
         rString.ReleaseBuffer();
     }
     void GetClientRect(LPRECT lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
+    void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
+    void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
+    void ScreenToClient(LPRECT lpRect) const { ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2); }
+    void ClientToScreen(LPPOINT lpPoint) const { ::ClientToScreen(m_hWnd, lpPoint); }
+    void ClientToScreen(LPRECT lpRect) const { ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<LPPOINT>(lpRect), 2); }
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
+    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
+    void UpdateWindow() { ::UpdateWindow(m_hWnd); }
+    BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
+    BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
+    CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        return ::SendMessageA(m_hWnd, message, wParam, lParam);
+    }
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        return ::PostMessageA(m_hWnd, message, wParam, lParam);
+    }
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse, void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD))
+    {
+        return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
+    }
+    BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
+
+    // The message being handled on this thread, with the time and cursor position of the
+    // last message retrieved.
+    static const MSG* PASCAL GetCurrentMessage()
+    {
+        MSG& message = afx_compat_detail::LastSentMessage();
+        message.time = ::GetMessageTime();
+        DWORD pos = ::GetMessagePos();
+        message.pt = {static_cast<short>(LOWORD(pos)), static_cast<short>(HIWORD(pos))};
+        return &message;
+    }
+
+protected:
+    WNDPROC m_pfnSuper = nullptr;
+
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap()
+    {
+        typedef CWnd ThisClass;
+        static const AFX_MSGMAP_ENTRY entries[] = {ON_WM_NCDESTROY(){0, 0, 0, 0, AfxSig_end, nullptr}};
+        static const AFX_MSGMAP map = {&CCmdTarget::GetThisMessageMap, entries};
+        return &map;
+    }
+    const AFX_MSGMAP* GetMessageMap() const override { return GetThisMessageMap(); }
+
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        LRESULT result = 0;
+        if (!OnWndMsg(message, wParam, lParam, &result)) result = DefWindowProc(message, wParam, lParam);
+        return result;
+    }
+    // Calls the map's handler of the message, if any: commands through OnCommand, window
+    // messages with the parameters their handler's signature takes.
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+    {
+        if (message == WM_COMMAND) {
+            if (!OnCommand(wParam, lParam)) return FALSE;
+            *pResult = 1;
+            return TRUE;
+        }
+        const AFX_MSGMAP_ENTRY* entry = FindMessageEntry(message, 0, 0);
+        if (entry == nullptr) return FALSE;
+        using afx_compat_detail::HandlerOf;
+        switch (entry->nSig) {
+        case AfxSig_vv: (this->*HandlerOf<void (CWnd::*)()>(entry->pfn))(); break;
+        case AfxSig_v_up_v: (this->*HandlerOf<void (CWnd::*)(UINT_PTR)>(entry->pfn))(wParam); break;
+        case AfxSig_v_u_p:
+            (this->*HandlerOf<void (CWnd::*)(UINT, CPoint)>(entry->pfn))(
+                static_cast<UINT>(wParam), CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))));
+            break;
+        default: return FALSE;
+        }
+        *pResult = 0;
+        return TRUE;
+    }
+    // A control's notification carries its code; a menu's or accelerator's command is CN_COMMAND.
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam)
+    {
+        int code = lParam != 0 ? HIWORD(wParam) : CN_COMMAND;
+        return OnCmdMsg(LOWORD(wParam), code, nullptr, nullptr);
+    }
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (m_pfnSuper != nullptr) return ::CallWindowProcA(m_pfnSuper, m_hWnd, message, wParam, lParam);
+        return ::DefWindowProcA(m_hWnd, message, wParam, lParam);
+    }
+    // The window's own handling of the current message.
+    LRESULT Default()
+    {
+        const MSG& message = afx_compat_detail::LastSentMessage();
+        return DefWindowProc(message.message, message.wParam, message.lParam);
+    }
+
+    afx_msg void OnPaint() { Default(); }
+    afx_msg void OnTimer(UINT_PTR /*nIDEvent*/) { Default(); }
+    afx_msg void OnLButtonDown(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnDestroy() { Default(); }
+    // The last message: the window gets its own procedure back and the object lets go of it.
+    afx_msg void OnNcDestroy()
+    {
+        Default();
+        UnsubclassWindow();
+    }
+
+    friend LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 };
+
+// Runs the message through the window object, remembering it for Default meanwhile.
+inline LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
+{
+    MSG& current = afx_compat_detail::LastSentMessage();
+    MSG outer = current;
+    current.hwnd = hWnd;
+    current.message = nMsg;
+    current.wParam = wParam;
+    current.lParam = lParam;
+    LRESULT result = pWnd->WindowProc(nMsg, wParam, lParam);
+    current = outer;
+    return result;
+}
+
+// The window procedure of subclassed windows.
+inline LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
+{
+    CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
+    if (pWnd == nullptr || pWnd->m_hWnd != hWnd) return ::DefWindowProcA(hWnd, nMsg, wParam, lParam);
+    return AfxCallWndProc(pWnd, hWnd, nMsg, wParam, lParam);
+}
 
 class CClientDC : public CDC {
 public:
