@@ -18,9 +18,9 @@ public:
     // Weighted mix of the two colours (as the context can show them); percent is the weight of
     // first, not clamped: each channel outside 0-255 keeps its low 8 bits.
     static COLORREF MakeMixColor(CDC* dc, COLORREF first, COLORREF second, int percent);
-    // Paints, for each of count colours, a strip of length pixels that
-    // brightens from the colour toward 224 per channel at 3/8 of its length and falls back,
-    // along row 0 (vertical 0) or column 0, strips end to end. A shorter length paints nothing.
+    // Paints, for each of count colours, a strip of length pixels that brightens from the colour
+    // toward 224 per channel at 3/8 of its length and falls back, along row 0 (vertical 0) or
+    // column 0, strips end to end. A length below 3 paints nothing.
     static void Make3DColor(CDC* dc, int length, COLORREF* colors, int count, int vertical);
     // Whether the scheme's "BACKGROUND" averages 64 or less over its channels.
     static bool IsDarkBackground(CDC* dc);
