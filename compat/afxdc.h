@@ -211,6 +211,28 @@ inline CHandleMap<CDC, HDC>* afxMapHDC()
     return map;
 }
 
+inline BOOL CFont::CreatePointFontIndirect(const LOGFONTA* lpLogFont, CDC* pDC)
+{
+    HDC hDC = pDC ? pDC->m_hAttribDC : ::GetDC(nullptr);
+    LOGFONTA logFont = *lpLogFont;
+    POINT pt = {0, ::MulDiv(::GetDeviceCaps(hDC, LOGPIXELSY), logFont.lfHeight, 720)};  // 720 decipoints an inch
+    POINT origin = {0, 0};
+    ::DPtoLP(hDC, &pt, 1);
+    ::DPtoLP(hDC, &origin, 1);
+    logFont.lfHeight = -abs(pt.y - origin.y);
+    if (pDC == nullptr) ::ReleaseDC(nullptr, hDC);
+    return CreateFontIndirect(&logFont);
+}
+
+inline BOOL CFont::CreatePointFont(int nPointSize, LPCSTR lpszFaceName, CDC* pDC)
+{
+    LOGFONTA logFont = {};
+    logFont.lfCharSet = DEFAULT_CHARSET;
+    logFont.lfHeight = nPointSize;
+    ::lstrcpynA(logFont.lfFaceName, lpszFaceName, LF_FACESIZE);
+    return CreatePointFontIndirect(&logFont, pDC);
+}
+
 inline BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
 {
     return Attach(::CreateCompatibleBitmap(pDC->m_hDC, nWidth, nHeight));

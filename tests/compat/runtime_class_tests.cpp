@@ -60,3 +60,26 @@ TEST(DrawingMembers, RoundRectCharWidthsAndPrinting)
     dc->m_bPrinting = TRUE;
     EXPECT_TRUE(dc->IsPrinting());
 }
+
+TEST(DrawingMembers, PointFontsAreTenthsOfAPointInTheContextsUnits)
+{
+    DibCanvas canvas(4, 4);
+    ASSERT_EQ(96, canvas.dc()->GetDeviceCaps(LOGPIXELSY)) << "the test reads 96 pixels an inch";
+    CFont screen, onCanvas;
+    ASSERT_TRUE(screen.CreatePointFont(120, "Arial"));
+    ASSERT_TRUE(onCanvas.CreatePointFont(90, "Arial", canvas.dc()));
+    LOGFONTA a, b;
+    screen.GetLogFont(&a);
+    onCanvas.GetLogFont(&b);
+    EXPECT_EQ(-16, a.lfHeight) << "12 points at 96 pixels an inch";
+    EXPECT_EQ(-12, b.lfHeight);
+    EXPECT_STREQ("Arial", a.lfFaceName);
+    EXPECT_EQ(DEFAULT_CHARSET, a.lfCharSet);
+    ::SetMapMode(canvas.dc()->m_hDC, MM_TWIPS);  // 1440 logical units an inch
+    CFont twips;
+    ASSERT_TRUE(twips.CreatePointFont(120, "Arial", canvas.dc()));
+    LOGFONTA c;
+    twips.GetLogFont(&c);
+    EXPECT_EQ(-240, c.lfHeight) << "12 points are 240 twips";
+    ::SetMapMode(canvas.dc()->m_hDC, MM_TEXT);
+}
