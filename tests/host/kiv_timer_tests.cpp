@@ -85,6 +85,20 @@ protected:
         }
     }
 
+    // A 50 ms timer on wnd ticks three times with its owner record, no sooner than three ticks
+    // can, and not again once killed.
+    void ExpectThreeTicksThenStop(CWnd* wnd)
+    {
+        Owner owner;
+        RunUntilTicks(owner, wnd, 50, 3);
+        ExpectRecords(owner);
+        EXPECT_GE(owner.ticks[2].time - start, 60u) << "three ticks of 50 ms cannot all come within 60 ms";
+        timer.KillTimer();
+        EXPECT_EQ(0u, timer.GetTimerId());
+        Pump(300);
+        EXPECT_EQ(3u, owner.ticks.size());
+    }
+
     CWnd window;
     KivTimer timer;
     UINT_PTR id = 0;
@@ -93,30 +107,9 @@ protected:
 
 }  // namespace
 
-TEST_F(KivTimerTest, AWindowTimerTicksRepeatedlyWithItsOwnerRecord)
-{
-    Owner owner;
-    RunUntilTicks(owner, &window, 50, 3);
-    ExpectRecords(owner);
-    // Three ticks of 50 ms cannot all come within the first 60 ms.
-    EXPECT_GE(owner.ticks[2].time - start, 60u);
-    timer.KillTimer();
-    EXPECT_EQ(0u, timer.GetTimerId());
-    Pump(300);
-    EXPECT_EQ(3u, owner.ticks.size());
-}
+TEST_F(KivTimerTest, AWindowTimerTicksRepeatedlyWithItsOwnerRecord) { ExpectThreeTicksThenStop(&window); }
 
-TEST_F(KivTimerTest, ANullWindowMakesAThreadTimer)
-{
-    Owner owner;
-    RunUntilTicks(owner, nullptr, 50, 3);
-    ExpectRecords(owner);
-    EXPECT_GE(owner.ticks[2].time - start, 60u);
-    timer.KillTimer();
-    EXPECT_EQ(0u, timer.GetTimerId());
-    Pump(300);
-    EXPECT_EQ(3u, owner.ticks.size());
-}
+TEST_F(KivTimerTest, ANullWindowMakesAThreadTimer) { ExpectThreeTicksThenStop(nullptr); }
 
 TEST_F(KivTimerTest, AWindowObjectWithoutAWindowMakesAThreadTimer)
 {
