@@ -10,6 +10,7 @@
 #include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/draw/plugin_title.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
+#include "support/dib_canvas.h"
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -28,43 +29,14 @@ const char* const kPrices[2] = {"+12.50", "-3.21"};
 KivStyleMgr* Scheme() { return KivStyleMgr::GetInstance(); }
 HFONT SchemeFontHandle(const char* key) { return static_cast<HFONT>(Scheme()->GetFont(key)->m_hObject); }
 
-// A 32-bit top-down DIB section selected into a memory context: what a panel is copied onto.
-class Target {
-public:
-    Target()
-    {
-        BITMAPINFO info = {};
-        info.bmiHeader.biSize = sizeof(BITMAPINFOHEADER);
-        info.bmiHeader.biWidth = kWidth;
-        info.bmiHeader.biHeight = -kHeight;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        m_bitmap = CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
-        m_bits = static_cast<const unsigned*>(bits);
-        m_dc.Attach(CreateCompatibleDC(nullptr));
-        m_previous = SelectObject(m_dc, m_bitmap);
-    }
-    ~Target()
-    {
-        SelectObject(m_dc, m_previous);
-        DeleteObject(m_bitmap);
-    }
-    CDC* dc() { return &m_dc; }
-    int Differences(const Target& other) const
-    {
-        GdiFlush();
-        int n = 0;
-        for (int i = 0; i < kWidth * kHeight; ++i) n += (m_bits[i] & 0xFFFFFF) != (other.m_bits[i] & 0xFFFFFF);
-        return n;
-    }
-
-private:
-    CDC m_dc;
-    HBITMAP m_bitmap;
-    HGDIOBJ m_previous;
-    const unsigned* m_bits = nullptr;
-};
+// How many pixels two canvases hold differently.
+int Differences(const DibCanvas& a, const DibCanvas& b)
+{
+    int n = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) n += a.Pixel(x, y) != b.Pixel(x, y) ? 1 : 0;
+    return n;
+}
 
 // --- The caption ------------------------------------------------------------------------------
 
@@ -268,16 +240,16 @@ int main()
         std::fprintf(stderr, "the sample schemes are not installed beside the program\n");
         return 1;
     }
-    Target kit, hand;
+    DibCanvas kit(kWidth, kHeight), hand(kWidth, kHeight);
     HGDIOBJ fonts[2];
-    for (Target* t : {&kit, &hand}) {
+    for (DibCanvas* t : {&kit, &hand}) {
         fonts[t == &hand] = SelectObject(t->dc()->m_hDC, SchemeFontHandle("PLUG_STDFONT"));
         SetBkMode(t->dc()->m_hDC, TRANSPARENT);
     }
     CaptionByKit(kit.dc());
     CaptionByHand(hand.dc()->m_hDC);
     std::printf("Medians of %d runs; in brackets the 10th-90th percentile of the per-run ratios.\n", kRuns);
-    std::printf("caption pixels differing from raw GDI's: %d\n", kit.Differences(hand));
+    std::printf("caption pixels differing from raw GDI's: %d\n", Differences(kit, hand));
     Comparison caption = Compare(kRuns, 200, [&](int) { CaptionByKit(kit.dc()); },
                                  [&](int) { CaptionByHand(hand.dc()->m_hDC); });
     Print("rich-text caption", caption, "<= 2");
@@ -285,7 +257,7 @@ int main()
 
     PanelByKit(kit.dc());
     PanelByHand(hand.dc());
-    std::printf("panel pixels differing from raw GDI's: %d of %d\n", kit.Differences(hand), kWidth * kHeight);
+    std::printf("panel pixels differing from raw GDI's: %d of %d\n", Differences(kit, hand), kWidth * kHeight);
     Print("panel repaint", Compare(kRuns, 20, [&](int) { PanelByKit(kit.dc()); }, [&](int) { PanelByHand(hand.dc()); }),
           "<= 1.3");
 
@@ -296,6 +268,6 @@ int main()
     }, [&](int i) { Scheme()->LoadStyle(schemes[i % 2]); });
     std::printf("scheme switch: LoadStyle and 20 panel repaints %.1f ms, LoadStyle alone %.1f ms (%.2fx)\n",
                 switching.subject / 1000, switching.baseline / 1000, switching.ratio);
-    for (Target* t : {&kit, &hand}) SelectObject(t->dc()->m_hDC, fonts[t == &hand]);
+    for (DibCanvas* t : {&kit, &hand}) SelectObject(t->dc()->m_hDC, fonts[t == &hand]);
     return 0;
 }
