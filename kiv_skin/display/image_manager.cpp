@@ -1,7 +1,6 @@
 #include "kiv_skin/display/image_manager.h"
 #include "kiv_skin/module.h"
-#include <cctype>
-#include <cstdlib>
+#include "kiv_skin/style/color_text.h"
 #include <cstring>
 #include <tinyxml.h>
 
@@ -72,18 +71,7 @@ CBitmap* CutCell(HIMAGELIST list, int position, SIZE size)
 
 namespace kiv_skin {
 
-COLORREF ParseMaskColor(const char* text)
-{
-    if (!text) return 0;
-    unsigned int numbers[3] = {0, 0, 0};
-    for (unsigned int& n : numbers) {
-        while (*text && !std::isdigit(static_cast<unsigned char>(*text))) ++text;
-        if (!*text) break;
-        n = static_cast<unsigned int>(std::atoi(text));
-        while (std::isdigit(static_cast<unsigned char>(*text))) ++text;
-    }
-    return numbers[0] | (numbers[1] << 8) | (numbers[2] << 16);
-}
+COLORREF ParseMaskColor(const char* text) { return ColorFromMaskText(text); }
 
 }  // namespace kiv_skin
 

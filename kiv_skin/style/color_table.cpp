@@ -1,4 +1,5 @@
 #include "kiv_skin/style/color_table.h"
+#include "kiv_skin/style/color_text.h"
 #include "kiv_skin/style/scheme_file.h"
 #include "kiv_base/file_helpers.h"
 #include <cstdio>
@@ -87,13 +88,7 @@ bool CreateNewFile(const ColorTable& table, const CString& path)
 
 }  // namespace
 
-COLORREF ParseColorValue(const char* text)
-{
-    if (!text || !*text || (!std::strstr(text, "0x") && !std::strstr(text, "0X"))) return kNoColor;
-    unsigned int n = 0;
-    if (std::sscanf(text, "%x", &n) != 1) return kNoColor;
-    return (n & 0xFF) | (n & 0xFF00) | (n & 0xFF0000);
-}
+COLORREF ParseColorValue(const char* text) { return ColorFromValueText(text); }
 
 CString FormatColor(COLORREF color)
 {
