@@ -55,6 +55,8 @@ private:
         } else if (key.find('\x04') != std::string::npos) {
             Warn(where, "message \"" + key.substr(key.find('\x04') + 1) + "\" in context \"" +
                             key.substr(0, key.find('\x04')) + "\" left out: catalogues have no contexts");
+        } else if (key[0] == '\0') {
+            Warn(where, "plural message with an empty singular left out: a catalogue cannot look it up");
         } else if (key.find('\0') != std::string::npos) {
             std::string singular = key.substr(0, key.find('\0'));
             Warn(where, "plural message \"" + singular + "\": only its singular translation is kept");

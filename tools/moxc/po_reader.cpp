@@ -1,4 +1,5 @@
 #include "po_reader.h"
+#include <algorithm>
 #include <cstring>
 #include <map>
 
@@ -79,8 +80,9 @@ void PoParser::ParseLine(const std::string& raw)
         return;
     }
     size_t space = line.find_first_of(" \t");
-    if (space == std::string::npos) Fail("expected a keyword and a string: " + line);
-    Keyword(line.substr(0, space), line.substr(line.find_first_not_of(" \t", space)));
+    size_t text = line.find_first_not_of(" \t", space);
+    if (space == std::string::npos || text == std::string::npos) Fail("expected a keyword and a string: " + line);
+    Keyword(line.substr(0, space), line.substr(text));
 }
 
 void PoParser::Keyword(const std::string& word, const std::string& rest)
@@ -130,6 +132,7 @@ std::string PoParser::Literal(const std::string& rest) const
     std::string out;
     for (size_t i = 1; i < last; ++i) {
         if (rest[i] == '"') Fail("unescaped double quote in a string");
+        if (rest[i] == '\0') Fail("zero byte in a string");
         if (rest[i] == '\\' && i + 1 >= last) Fail("string not terminated: its closing quote is escaped");
         out += rest[i] == '\\' ? Escape(rest, ++i) : rest[i];
     }
@@ -149,7 +152,8 @@ char PoParser::Escape(const std::string& s, size_t& i) const
     if (s[i] >= '0' && s[i] <= '7') {
         for (; digits < 3 && s[i + digits] >= '0' && s[i + digits] <= '7'; ++digits) value = value * 8 + s[i + digits] - '0';
     } else if (s[i] == 'x') {
-        for (++i; HexDigit(s[i + digits]) >= 0; ++digits) value = value * 16 + HexDigit(s[i + digits]);
+        // Any number of digits: the value stops growing once it is over 255, so it cannot overflow.
+        for (++i; HexDigit(s[i + digits]) >= 0; ++digits) value = std::min(value * 16 + HexDigit(s[i + digits]), 256);
     }
     if (digits == 0) Fail(std::string("invalid escape sequence \\") + s[i]);
     if (value == 0 || value > 255) Fail("escape sequence gives a zero byte or a value over 255");

@@ -100,8 +100,30 @@ check bad_po duplicate 'msgid "a"\nmsgstr "b"\n\nmsgid "a"\nmsgstr "c"\n' \
   'duplicate.po:4: duplicate message "a" \(first defined on line 1\)'
 check bad_po keyword 'msgid "a"\nmsgtext "b"\n' 'keyword.po:2: unknown keyword msgtext'
 check bad_po nostr 'msgid "a"\n' 'nostr.po:1: msgid "a" has no msgstr'
+# Found by fuzzing: a keyword followed by blanks only used to end moxc with an uncaught exception,
+# a long hexadecimal escape overflowed, and a raw zero byte was taken into a string although its
+# escaped form \000 is refused.
+check bad_po long_hex 'msgid "a"\nmsgstr "\\x1000000000000000000041"\n' 'long_hex.po:2: .*value over 255'
+check bad_po zero_byte 'msgid "a"\nmsgstr "b\0c"\n' 'zero_byte.po:2: zero byte in a string'
+check bad_po blank_after_keyword 'msgid "a"\nmsgstr \n' 'blank_after_keyword.po:2: expected a keyword and a string'
 head -c 30 real_zh_CN.mo > cut.mo
 check error cut_mo out.mox 'cut.mo: .*past the end' compile cut.mo -o out.mox --lang zh_CN
+# Found by fuzzing: a plural entry whose singular is empty used to fail as "message too long".
+python3 - <<'PY'
+entries = [(b"", b"Content-Type: text/plain; charset=UTF-8\n"), (b"\0files", b"a\0b"), (b"kept", b"yes")]
+n, text = len(entries), 28 + 16 * len(entries)
+tables, strings = b"", b""
+for column in (0, 1):
+    for entry in entries:
+        s = entry[column]
+        tables += len(s).to_bytes(4, "little") + (text + len(strings)).to_bytes(4, "little")
+        strings += s + b"\0"
+header = b"".join(v.to_bytes(4, "little") for v in (0x950412DE, 0, n, 28, 28 + 8 * n, 0, 0))
+open("empty_singular.mo", "wb").write(header + tables + strings)
+PY
+check ok empty_singular compile empty_singular.mo -o empty_singular.mox --lang en
+check grep -q 'plural message with an empty singular left out' empty_singular.err || fail "empty singular: no warning"
+check contains empty_singular.mox 'kept'
 printf 'not a mo file at all....' > bad.mo
 check error bad_mo out.mox 'bad.mo: not a .mo file' compile bad.mo -o out.mox --lang zh_CN
 check error missing out.mox 'missing.po: cannot open' compile missing.po -o out.mox --lang en
