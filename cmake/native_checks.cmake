@@ -11,7 +11,7 @@ set(KIV_SANITIZER_FLAGS -fno-sanitize-recover=all -fno-omit-frame-pointer)
 add_compile_options(-fsanitize=${KIV_SANITIZERS} ${KIV_SANITIZER_FLAGS})
 add_link_options(-fsanitize=${KIV_SANITIZERS})
 
-set(KIV_FUZZ_SECONDS 60 CACHE STRING "How long CTest's smoke run of each fuzz target lasts")
+set(KIV_FUZZ_SECONDS 30 CACHE STRING "How long CTest's smoke run of each fuzz target lasts")
 set(kiv_fuzz_smoke ${CMAKE_CURRENT_LIST_DIR}/fuzz-smoke)
 
 # GoogleTest from Debian's googletest package, built with the same sanitizers.
