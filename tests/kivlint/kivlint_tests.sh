@@ -20,7 +20,8 @@ file() { echo "$1" | sed 's|/|[/\\\\]|g'; }
 lint() {
   local name=$1 status=$2; shift 2
   checks=$((checks + 1))
-  "${kivlint[@]}" "$@" >"$name.out" 2>&1; local got=$?
+  # Windows ends lines with CR LF.
+  "${kivlint[@]}" "$@" 2>&1 | tr -d '\r' >"$name.out"; local got=${PIPESTATUS[0]}
   [ "$got" = "$status" ] || fail "$name: exit $got, expected $status: $(cat "$name.out")"
 }
 # says NAME PATTERN: the output of NAME has a line matching PATTERN (extended regex).
