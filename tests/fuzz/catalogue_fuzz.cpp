@@ -23,9 +23,10 @@ void Check(bool holds, const char* what)
     }
 }
 
-// The index's answer for key against the map's.
-void CheckFind(const Index& index, const Catalogue& reference, const std::string& key)
+// The index's answer for key, as the C string it stands for, against the map's.
+void CheckFind(const Index& index, const Catalogue& reference, const std::string& text)
 {
+    const std::string key = text.c_str();
     const char* found = index.Find(key.c_str());
     const auto expected = reference.find(key);
     if (expected == reference.end())
