@@ -7,6 +7,7 @@
 #include "kiv_base/text.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/style/style_catalogue.h"
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
@@ -58,12 +59,34 @@ bool RenderSheet(const CString& scheme, const std::string& folder)
     return Save(sheet, folder, scheme, "pieces");
 }
 
+// Each line of the sheet on its own, markup\<scheme>\<tag>.png: the reference pages show one
+// per tag.
+bool SaveMarkupLines(Picture& sheet, const std::string& folder, const CString& scheme)
+{
+    const std::string lines = folder + "\\markup\\" + static_cast<const char*>(scheme);
+    std::error_code error;
+    std::filesystem::create_directories(kiv_base::text::AnsiToUtf(lines), error);
+    for (int line = 0; line < MarkupLineCount(); ++line) {
+        const CRect band = MarkupLineBand(line);
+        Picture picture(band.Width(), band.Height(), 0);
+        picture.dc()->BitBlt(0, 0, band.Width(), band.Height(), sheet.dc(), band.left, band.top, SRCCOPY);
+        std::string tag = MarkupLineTag(line);
+        std::replace(tag.begin(), tag.end(), ' ', '_');
+        if (FAILED(picture.SaveAsPng(kiv_base::text::AnsiToUtf(lines + "\\" + tag + ".png")))) {
+            std::printf("  could not write the line pictures in %s\n", lines.c_str());
+            return false;
+        }
+    }
+    std::printf("  %s\\ (one picture per tag)\n", lines.c_str());
+    return true;
+}
+
 bool RenderMarkupSheet(const CString& scheme, const std::string& folder)
 {
     CSize size = MarkupSheetSize();
     Picture sheet(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
     DrawMarkupSheet(sheet.dc(), SheetTitle("Rich-text markup", scheme).c_str());
-    return Save(sheet, folder, scheme, "markup");
+    return Save(sheet, folder, scheme, "markup") && SaveMarkupLines(sheet, folder, scheme);
 }
 
 }  // namespace

@@ -78,9 +78,9 @@ void DrawHeader(CDC* dc, int width)
 
 // One line: the pair's band (pairs alternate plain and tinted), the tag name, the markup as
 // plain text and the markup drawn.
-void DrawLine(CDC* dc, KivDraw& kit, int line, int width)
+void DrawLine(CDC* dc, KivDraw& kit, int line)
 {
-    CRect band(kMargin, LineTop(line), width - kMargin, LineTop(line) + kLine);
+    CRect band = MarkupLineBand(line);
     bool tinted = (line / 2) % 2 == 1;
     KivDraw::FillRect(dc, &band, tinted ? Faded(dc, "PLUG_TITLE_BGCOLOR", 60) : SchemeColor("PLUG_BGCOLOR"));
     if (line % 2 == 1 && line + 1 < kLines) kit.HoriDotLine(dc, band.left, band.right, band.bottom - 1);
@@ -104,6 +104,12 @@ CRect MarkupDrawnCell(int line)
     return CRect(left, LineTop(line), left + kDrawnWidth - 2 * kInset, LineTop(line) + kLine);
 }
 
+int MarkupLineCount() { return kLines; }
+
+const char* MarkupLineTag(int line) { return kSamples[line].tag; }
+
+CRect MarkupLineBand(int line) { return CRect(kMargin, LineTop(line), MarkupSheetSize().cx - kMargin, LineTop(line) + kLine); }
+
 void DrawMarkupSheet(CDC* dc, const char* title)
 {
     CSize size = MarkupSheetSize();
@@ -112,5 +118,5 @@ void DrawMarkupSheet(CDC* dc, const char* title)
     WriteText(dc, title, heading, "PLUG_TITLE", SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kOneLine);
     DrawHeader(dc, size.cx);
     KivDraw kit;
-    for (int line = 0; line < kLines; ++line) DrawLine(dc, kit, line, size.cx);
+    for (int line = 0; line < kLines; ++line) DrawLine(dc, kit, line);
 }

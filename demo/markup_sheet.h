@@ -8,3 +8,7 @@ CSize MarkupSheetSize();
 void DrawMarkupSheet(CDC* dc, const char* title);
 // Where line number line (0-25) draws its markup, to find its pixels.
 CRect MarkupDrawnCell(int line);
+// The lines of the sheet: how many, the tag each shows, and each one's whole band.
+int MarkupLineCount();
+const char* MarkupLineTag(int line);
+CRect MarkupLineBand(int line);
