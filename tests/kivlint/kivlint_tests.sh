@@ -118,5 +118,11 @@ for key in $(grep -rhoE '"[A-Z][A-Z0-9]*_[A-Z0-9_]+"|"(AXIS|BACKGROUND|DEFAULT|S
   says keys "^(colour|font|image) $key: "
 done
 
+# The scheme designers' reference names every key kivlint knows.
+for key in $(sed -n 's/^[a-z]* \([A-Z_0-9]*\): .*/\1/p' keys.out); do
+  checks=$((checks + 1))
+  grep -q "\`$key\`" "$source_root/docs/schemes.md" || fail "docs/schemes.md does not name $key"
+done
+
 echo "$checks checks, $failures failures"
 [ $failures = 0 ]
