@@ -19,21 +19,6 @@ PluginScrollBar::MOUSEEVENT Send(PluginScrollBar& bar, uint16_t message, int x, 
     return bar.OnMouseEvent(&event);
 }
 
-void Pump(DWORD ms)
-{
-    DWORD start = ::GetTickCount();
-    for (;;) {
-        MSG msg;
-        while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
-            ::TranslateMessage(&msg);
-            ::DispatchMessageA(&msg);
-        }
-        DWORD spent = ::GetTickCount() - start;
-        if (spent >= ms) return;
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, ms - spent, QS_ALLINPUT);
-    }
-}
-
 const GUID kPluginInterface = {0x83947233, 0x6E55, 0x4CEF, {0x9D, 0x67, 0x86, 0xF6, 0x39, 0xB0, 0x0C, 0x0C}};
 
 HRESULT STDMETHODCALLTYPE RecordingObject::QueryInterface(REFIID iid, void** out)

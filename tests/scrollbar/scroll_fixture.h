@@ -4,6 +4,7 @@
 #include "draw/draw_fixture.h"
 #include "kiv_core/kiv_object.h"
 #include "kiv_skin/scrollbar/plugin_scroll_bar.h"
+#include "support/message_pump.h"
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -21,16 +22,6 @@ void MakeStandard(PluginScrollBar& bar, int total = 100);
 
 _DMouseEvent MouseEvent(uint16_t message, int x, int y, int16_t wheelDelta = 0);
 PluginScrollBar::MOUSEEVENT Send(PluginScrollBar& bar, uint16_t message, int x, int y, int16_t wheelDelta = 0);
-
-// Runs the thread's message loop for ms milliseconds.
-void Pump(DWORD ms);
-// Runs it until done() or ms milliseconds have passed; answers done().
-template <class Done> bool PumpUntil(Done done, DWORD ms)
-{
-    DWORD start = ::GetTickCount();
-    while (!done() && ::GetTickCount() - start < ms) Pump(5);
-    return done();
-}
 
 // The plug-in interface identifier a redraw request carries.
 extern const GUID kPluginInterface;
