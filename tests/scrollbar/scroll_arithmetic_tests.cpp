@@ -125,50 +125,48 @@ TEST(ScrollArithmetic, ScrollToAnotherBarChangesNothing)
     EXPECT_EQ(0u, m.flags);
 }
 
-TEST(ScrollArithmetic, ArrowsAreSquaresOfTheThicknessOrHalfTheLength)
-{
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 40}, 0, 10, 10, 1), 17, 17, 23, 23));
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 30}, 0, 10, 10, 1), 15, 15, 15, 15));
-    EXPECT_TRUE(Is(Layout({0, 0, 40, 17}, 0, 10, 10, 0), 17, 17, 23, 23));
-    EXPECT_TRUE(Is(Layout({0, 0, 31, 17}, 0, 10, 10, 0), 15, 15, 16, 16));
-    EXPECT_TRUE(Is(Layout({5, 100, 22, 300}, 0, 10, 20, 1), 117, 117, 200, 283));
-}
+// The geometry of arrows, track and thumb: {track start, thumb start, thumb end, track end}.
+struct LayoutCase {
+    const char* what;
+    Box box;
+    int pos, page, total, vertical;
+    Geometry want;
+};
 
-TEST(ScrollArithmetic, ThumbIsProportional)
-{
-    // Track 17 to 123, 106 pixels.
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 140}, 20, 10, 100, 1), 17, 38, 48, 123));
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 140}, 90, 10, 100, 1), 17, 112, 123, 123));
-    // A page larger than the total fills the track.
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 140}, 0, 50, 5, 1), 17, 17, 123, 123));
-}
+const LayoutCase kLayouts[] = {
+    // Arrows are squares of the thickness, or half the length when the bar is shorter.
+    {"17 x 40: arrows of 17", {0, 0, 17, 40}, 0, 10, 10, 1, {17, 17, 23, 23}},
+    {"17 x 30: arrows of 15", {0, 0, 17, 30}, 0, 10, 10, 1, {15, 15, 15, 15}},
+    {"40 x 17 across: arrows of 17", {0, 0, 40, 17}, 0, 10, 10, 0, {17, 17, 23, 23}},
+    {"31 x 17 across: arrows of 15", {0, 0, 31, 17}, 0, 10, 10, 0, {15, 15, 16, 16}},
+    {"offset bar", {5, 100, 22, 300}, 0, 10, 20, 1, {117, 117, 200, 283}},
+    // Proportional thumbs on a track from 17 to 123 (106 pixels).
+    {"pos 20 of 100", {0, 0, 17, 140}, 20, 10, 100, 1, {17, 38, 48, 123}},
+    {"pos 90 of 100", {0, 0, 17, 140}, 90, 10, 100, 1, {17, 112, 123, 123}},
+    {"page larger than the total fills the track", {0, 0, 17, 140}, 0, 50, 5, 1, {17, 17, 123, 123}},
+    // A 1-pixel thumb (100-pixel track, 1000 lines, page 10) grows to 8: forward while there is
+    // room, then its end reaches the track end and the rest goes backward.
+    {"short thumb at the start grows forward", {0, 0, 17, 134}, 0, 10, 1000, 1, {17, 17, 25, 117}},
+    {"short thumb in the middle grows forward", {0, 0, 17, 134}, 500, 10, 1000, 1, {17, 67, 75, 117}},
+    {"short thumb at the end grows backward", {0, 0, 17, 134}, 990, 10, 1000, 1, {17, 109, 117, 117}},
+    {"one pixel of room: forward by one, back by six", {0, 0, 17, 134}, 985, 10, 1000, 1, {17, 109, 117, 117}},
+    // A 4-pixel track: the thumb takes all of it, never starting before the track.
+    {"4-pixel track at the start", {0, 0, 13, 30}, 0, 4, 100, 1, {13, 13, 17, 17}},
+    {"4-pixel track at the end", {0, 0, 13, 30}, 96, 4, 100, 1, {13, 13, 17, 17}},
+    // No geometry without a total or a page.
+    {"total 0", {0, 0, 17, 140}, 0, 10, 0, 1, {0, 0, 0, 0}},
+    {"page 0", {0, 0, 17, 140}, 0, 0, 100, 1, {0, 0, 0, 0}},
+    {"negative page and total", {0, 0, 17, 140}, 0, -3, -100, 1, {0, 0, 0, 0}},
+};
 
-TEST(ScrollArithmetic, ShortThumbGrowsToEightForwardWhenThereIsRoom)
+TEST(ScrollArithmetic, LayoutTable)
 {
-    // Track of 100 pixels, 1000 lines, page 10: a 1-pixel thumb.
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 134}, 0, 10, 1000, 1), 17, 17, 25, 117));
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 134}, 500, 10, 1000, 1), 17, 67, 75, 117));
-}
-
-TEST(ScrollArithmetic, ShortThumbAtTheEndGrowsBackward)
-{
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 134}, 990, 10, 1000, 1), 17, 109, 117, 117));
-    // One pixel of room after it: the end reaches the track end, the rest goes backward.
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 134}, 985, 10, 1000, 1), 17, 109, 117, 117));
-}
-
-TEST(ScrollArithmetic, ShortThumbNeverStartsBeforeTheTrack)
-{
-    // Track of 4 pixels: the thumb takes all of it.
-    EXPECT_TRUE(Is(Layout({0, 0, 13, 30}, 0, 4, 100, 1), 13, 13, 17, 17));
-    EXPECT_TRUE(Is(Layout({0, 0, 13, 30}, 96, 4, 100, 1), 13, 13, 17, 17));
-}
-
-TEST(ScrollArithmetic, NoGeometryWithoutTotalOrPage)
-{
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 140}, 0, 10, 0, 1), 0, 0, 0, 0));
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 140}, 0, 0, 100, 1), 0, 0, 0, 0));
-    EXPECT_TRUE(Is(Layout({0, 0, 17, 140}, 0, -3, -100, 1), 0, 0, 0, 0));
+    for (const LayoutCase& c : kLayouts) {
+        const Geometry& w = c.want;
+        EXPECT_TRUE(Is(Layout(c.box, c.pos, c.page, c.total, c.vertical), w.trackStart, w.thumbStart, w.thumbEnd,
+                       w.trackEnd))
+            << c.what;
+    }
 }
 
 // Vertical bar 17 x 140, pos 20 of 100, page 10: arrows 0-16 and 124-139, track before the

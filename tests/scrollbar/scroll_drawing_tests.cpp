@@ -66,6 +66,12 @@ testing::AssertionResult FaceAt(const DrawnBar& drawn, const Strip& strip, int n
 
 class ScrollDrawing : public TestScheme {};
 
+// Suites whose every test runs on the named scheme of the test catalogue.
+template <const char* Scheme> class OnScheme : public ::testing::Test {
+protected:
+    void SetUp() override { UseScheme(Scheme); }
+};
+
 TEST_F(ScrollDrawing, NothingWithoutContent)
 {
     Sheet sheet(120, 110);
@@ -242,10 +248,8 @@ TEST_F(ScrollDrawing, LargeFacesStretchTheCellsLastColumnAndRow)
     EXPECT_EQ(strip.Cell(1, 0, 0), sheet.At(20, 39));  // bottom edge in the corner colour
 }
 
-class ScrollDrawingWhite : public ::testing::Test {
-protected:
-    void SetUp() override { UseScheme("white"); }
-};
+const char kWhiteScheme[] = "white";
+using ScrollDrawingWhite = OnScheme<kWhiteScheme>;
 
 TEST_F(ScrollDrawingWhite, LightFacesAndBlackArrows)
 {
@@ -263,10 +267,8 @@ TEST_F(ScrollDrawingWhite, DisabledArrowsKeepTheTextColour)
     EXPECT_EQ(kText, drawn.At(8, 10));
 }
 
-class ScrollDrawingBlack : public ::testing::Test {
-protected:
-    void SetUp() override { UseScheme("black"); }
-};
+const char kBlackScheme[] = "black";
+using ScrollDrawingBlack = OnScheme<kBlackScheme>;
 
 TEST_F(ScrollDrawingBlack, DarkFacesAndWhiteArrows)
 {
@@ -277,10 +279,8 @@ TEST_F(ScrollDrawingBlack, DarkFacesAndWhiteArrows)
     for (int i = 0; i < 12; ++i) EXPECT_EQ(strip.Cell(1, i, 1), drawn.At(2 + i, 3)) << i;
 }
 
-class ScrollDrawingBare : public ::testing::Test {
-protected:
-    void SetUp() override { UseScheme("bare"); }
-};
+const char kBareScheme[] = "bare";
+using ScrollDrawingBare = OnScheme<kBareScheme>;
 
 TEST_F(ScrollDrawingBare, WithoutTheStripStripColumnsAreFillsAndFacesHaveNoArt)
 {

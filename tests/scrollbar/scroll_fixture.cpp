@@ -57,3 +57,16 @@ void Registration::Add(const char* path, IKivObject* object)
     ASSERT_TRUE(obj_system::ObjectManager::GetInstance()->Register(path, object)) << path;
     m_objects.push_back(object);
 }
+
+OwnerAndParent::OwnerAndParent(const char* parentPath, const char* ownerPath)
+{
+    registration.Add(parentPath, &parent);
+    registration.Add(ownerPath, &owner);
+}
+
+void MakeOwned(PluginScrollBar& bar, RecordingObject& owner)
+{
+    owner.watched = &bar;
+    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
+    MakeStandard(bar);
+}

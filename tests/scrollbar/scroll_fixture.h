@@ -62,6 +62,16 @@ private:
     std::vector<IKivObject*> m_objects;
 };
 
+// An owner object registered under a parent object, both recording.
+struct OwnerAndParent {
+    OwnerAndParent(const char* parentPath, const char* ownerPath);
+    RecordingObject owner, parent;
+    Registration registration;
+};
+
+// Makes bar a vertical bar of owner (which records bar's position) in the standard place.
+void MakeOwned(PluginScrollBar& bar, RecordingObject& owner);
+
 namespace kiv_skin {
 // The private operations the tests call.
 struct PluginScrollBarInternals {

@@ -110,29 +110,24 @@ TEST_F(ScrollHostile, ReleaseWithoutPressStopsNothingAndMovesNothing)
 
 TEST_F(ScrollHostile, BarDestroyedWhileItsTimersRun)
 {
-    RecordingObject owner, parent;
-    Registration registration;
-    registration.Add("h", &parent);
-    registration.Add("h\\i", &owner);
+    OwnerAndParent host("h", "h\\i");
     {
         PluginScrollBar dragged(false);
-        dragged.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-        MakeStandard(dragged);
+        MakeOwned(dragged, host.owner);
         Send(dragged, DMOUSE_LBUTTONDOWN, kBarX, 20);
         Send(dragged, DMOUSE_MOVE, kBarX, 40);
         Send(dragged, DMOUSE_MOVE, kBarX, 50);  // the drag timer now runs too
         ASSERT_TRUE(Internals::DragTimerRunning(dragged));
         ASSERT_TRUE(Internals::RepeatRunning(dragged));
         auto* repeating = new PluginScrollBar;
-        repeating->Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-        MakeStandard(*repeating);
+        MakeOwned(*repeating, host.owner);
         Send(*repeating, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
         ASSERT_TRUE(Internals::RepeatRunning(*repeating));
         delete repeating;
     }
     Pump(700);
-    EXPECT_TRUE(owner.received.empty());
-    EXPECT_TRUE(parent.received.empty());
+    EXPECT_TRUE(host.owner.received.empty());
+    EXPECT_TRUE(host.parent.received.empty());
 }
 
 }  // namespace

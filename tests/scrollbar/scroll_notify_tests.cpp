@@ -46,9 +46,7 @@ TEST_F(ScrollNotify, OwnerHearsAtOnceAndItsParentIsAskedToRedrawWithThePluginInt
     registration.Add("a\\b", &parent);
     registration.Add("a\\b\\c", &owner);
     PluginScrollBar bar;
-    owner.watched = &bar;
-    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-    MakeStandard(bar);
+    MakeOwned(bar, owner);
 
     Send(bar, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
     ASSERT_TRUE(PumpUntil([&] { return owner.Count(kChanged) == 1; }, 3000));
@@ -74,8 +72,7 @@ TEST_F(ScrollNotify, OwnerWithoutABackslashInItsPathGetsNoRedraw)
     registration.Add("solo", &owner);
     registration.Add("other", &other);
     PluginScrollBar bar;
-    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-    MakeStandard(bar);
+    MakeOwned(bar, owner);
     HoldForOneRepeat(bar);
     EXPECT_GE(owner.Count(kChanged), 1);
     EXPECT_EQ(0, owner.Count(kRedraw));
@@ -88,8 +85,7 @@ TEST_F(ScrollNotify, OwnerWhoseParentPathHoldsNoObjectGetsNoRedraw)
     RecordingObject owner;
     registration.Add("x\\y", &owner);
     PluginScrollBar bar;
-    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-    MakeStandard(bar);
+    MakeOwned(bar, owner);
     HoldForOneRepeat(bar);
     EXPECT_GE(owner.Count(kChanged), 1);
     EXPECT_EQ(0, owner.Count(kRedraw));
@@ -111,33 +107,26 @@ TEST_F(ScrollNotify, WithoutAnOwnerNothingIsSent)
 
 TEST_F(ScrollNotify, ImmediateDragReportsNothing)
 {
-    RecordingObject owner, parent;
-    registration.Add("d", &parent);
-    registration.Add("d\\e", &owner);
+    OwnerAndParent host("d", "d\\e");
     PluginScrollBar bar(true);
-    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-    MakeStandard(bar);
+    MakeOwned(bar, host.owner);
     Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 20);
     EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, Send(bar, DMOUSE_MOVE, kBarX, 40));
     EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, Send(bar, DMOUSE_MOVE, kBarX, 50));
     EXPECT_EQ(44, bar.GetScrollPos());
     Pump(400);
     Send(bar, DMOUSE_LBUTTONUP, kBarX, 50);
-    EXPECT_TRUE(owner.received.empty());
-    EXPECT_TRUE(parent.received.empty());
+    EXPECT_TRUE(host.owner.received.empty());
+    EXPECT_TRUE(host.parent.received.empty());
 }
 
 // The first drag step applies at once; the next, within 80 ms, only moves the position and
 // waits for the drag timer, whose expiry 100 ms later reports it.
 TEST_F(ScrollNotify, ThrottledDragDefersItsReportByAHundredMilliseconds)
 {
-    RecordingObject owner, parent;
-    registration.Add("t", &parent);
-    registration.Add("t\\u", &owner);
+    OwnerAndParent host("t", "t\\u");
     PluginScrollBar bar(false);
-    owner.watched = &bar;
-    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-    MakeStandard(bar);
+    MakeOwned(bar, host.owner);
     Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 20);
     EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, Send(bar, DMOUSE_MOVE, kBarX, 40));
     EXPECT_EQ(29, bar.GetScrollPos());  // (40 - 3 - 17) * 100 / 68
@@ -145,17 +134,17 @@ TEST_F(ScrollNotify, ThrottledDragDefersItsReportByAHundredMilliseconds)
     EXPECT_EQ(PluginScrollBar::MOUSE_IGNORED, Send(bar, DMOUSE_MOVE, kBarX, 50));
     EXPECT_EQ(44, bar.GetScrollPos());
     EXPECT_TRUE(Internals::DragTimerRunning(bar));
-    EXPECT_TRUE(owner.received.empty());
-    ASSERT_TRUE(PumpUntil([&] { return owner.Count(kChanged) == 1; }, 3000));
-    DWORD delay = owner.received[0].tick - deferred;
+    EXPECT_TRUE(host.owner.received.empty());
+    ASSERT_TRUE(PumpUntil([&] { return host.owner.Count(kChanged) == 1; }, 3000));
+    DWORD delay = host.owner.received[0].tick - deferred;
     Send(bar, DMOUSE_LBUTTONUP, kBarX, 50);
-    ASSERT_TRUE(PumpUntil([&] { return parent.Count(kRedraw) == 1; }, 3000));
+    ASSERT_TRUE(PumpUntil([&] { return host.parent.Count(kRedraw) == 1; }, 3000));
     EXPECT_GE(delay, 90u);
     EXPECT_LE(delay, 1000u);
-    EXPECT_EQ(44, owner.received[0].pos);
+    EXPECT_EQ(44, host.owner.received[0].pos);
     EXPECT_FALSE(Internals::DragTimerRunning(bar));
     Pump(300);
-    EXPECT_EQ(1, owner.Count(kChanged));
+    EXPECT_EQ(1, host.owner.Count(kChanged));
 }
 
 TEST_F(ScrollNotify, DragTimerCallbackForAnotherTimerIsIgnored)
@@ -163,8 +152,7 @@ TEST_F(ScrollNotify, DragTimerCallbackForAnotherTimerIsIgnored)
     RecordingObject owner;
     registration.Add("v", &owner);
     PluginScrollBar bar(false);
-    bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-    MakeStandard(bar);
+    MakeOwned(bar, owner);
     bar.OnKivTimer(12345);
     EXPECT_TRUE(owner.received.empty());
 }

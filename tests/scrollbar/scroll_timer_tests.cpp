@@ -10,9 +10,7 @@ protected:
     void SetUp() override
     {
         registration.Add("timer\\list", &owner);
-        owner.watched = &bar;
-        bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
-        MakeStandard(bar);
+        MakeOwned(bar, owner);
     }
 
     std::vector<int> Positions() const
