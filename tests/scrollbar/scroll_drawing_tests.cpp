@@ -64,6 +64,19 @@ testing::AssertionResult FaceAt(const DrawnBar& drawn, const Strip& strip, int n
     return testing::AssertionSuccess();
 }
 
+// At position 40 both arrows can scroll, in the enabled colour; the arrows' and the thumb's faces
+// come from the strip's cell.
+void ExpectEnabledArrowsAndFaces(COLORREF enabled, int cell)
+{
+    Strip strip;
+    DrawnBar drawn(40);
+    EXPECT_EQ(enabled, drawn.At(8, 10));
+    EXPECT_EQ(enabled, drawn.At(8, 92));
+    EXPECT_TRUE(FaceAt(drawn, strip, cell, 2, 44, 13, 6));  // thumb 43-51, drawn 44-50
+    for (int i = 0; i < 12; ++i) EXPECT_EQ(strip.Cell(cell, i, 1), drawn.At(2 + i, 3)) << i;
+    EXPECT_TRUE(drawn.sheet.check.Unchanged());
+}
+
 class ScrollDrawing : public TestScheme {};
 
 // Suites whose every test runs on the named scheme of the test catalogue.
@@ -113,6 +126,8 @@ TEST_F(ScrollDrawing, ArrowsAtTheEndAreEnabledUpAndDisabledDown)
     EXPECT_EQ(0xFFFFFF - kTestBack, drawn.At(8, 10));
     EXPECT_EQ(kText, drawn.At(8, 92));
 }
+
+TEST_F(ScrollDrawing, DarkFacesAndComplementArrowsOnTheTestScheme) { ExpectEnabledArrowsAndFaces(0xFFFFFF - kTestBack, 1); }
 
 TEST_F(ScrollDrawing, SeparatorsInTheAxisColour)
 {
@@ -251,15 +266,7 @@ TEST_F(ScrollDrawing, LargeFacesStretchTheCellsLastColumnAndRow)
 const char kWhiteScheme[] = "white";
 using ScrollDrawingWhite = OnScheme<kWhiteScheme>;
 
-TEST_F(ScrollDrawingWhite, LightFacesAndBlackArrows)
-{
-    Strip strip;
-    DrawnBar drawn(40);
-    EXPECT_EQ(0u, drawn.At(8, 10));
-    EXPECT_EQ(0u, drawn.At(8, 92));
-    EXPECT_TRUE(FaceAt(drawn, strip, 5, 2, 44, 13, 6));  // thumb 43-51, drawn 44-50
-    for (int i = 0; i < 12; ++i) EXPECT_EQ(strip.Cell(5, i, 1), drawn.At(2 + i, 3)) << i;
-}
+TEST_F(ScrollDrawingWhite, LightFacesAndBlackArrows) { ExpectEnabledArrowsAndFaces(0, 5); }
 
 TEST_F(ScrollDrawingWhite, DisabledArrowsKeepTheTextColour)
 {
@@ -270,14 +277,7 @@ TEST_F(ScrollDrawingWhite, DisabledArrowsKeepTheTextColour)
 const char kBlackScheme[] = "black";
 using ScrollDrawingBlack = OnScheme<kBlackScheme>;
 
-TEST_F(ScrollDrawingBlack, DarkFacesAndWhiteArrows)
-{
-    Strip strip;
-    DrawnBar drawn(40);
-    EXPECT_EQ(0xFFFFFFu, drawn.At(8, 10));
-    EXPECT_EQ(0xFFFFFFu, drawn.At(8, 92));
-    for (int i = 0; i < 12; ++i) EXPECT_EQ(strip.Cell(1, i, 1), drawn.At(2 + i, 3)) << i;
-}
+TEST_F(ScrollDrawingBlack, DarkFacesAndWhiteArrows) { ExpectEnabledArrowsAndFaces(0xFFFFFF, 1); }
 
 const char kBareScheme[] = "bare";
 using ScrollDrawingBare = OnScheme<kBareScheme>;

@@ -70,3 +70,9 @@ void MakeOwned(PluginScrollBar& bar, RecordingObject& owner)
     bar.Create(&owner, PluginScrollBar::BORDER_NONE, 1);
     MakeStandard(bar);
 }
+
+PluginScrollBar::MOUSEEVENT GrabThumbAndDrag(PluginScrollBar& bar)
+{
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 20);
+    return Send(bar, DMOUSE_MOVE, kBarX, 40);
+}

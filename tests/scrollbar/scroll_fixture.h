@@ -69,6 +69,10 @@ struct OwnerAndParent {
     Registration registration;
 };
 
+// Grabs the standard bar's thumb 3 pixels below its start (at position 0) and drags it to y 40,
+// position 29; answers the drag step's result.
+PluginScrollBar::MOUSEEVENT GrabThumbAndDrag(PluginScrollBar& bar);
+
 // Makes bar a vertical bar of owner (which records bar's position) in the standard place.
 void MakeOwned(PluginScrollBar& bar, RecordingObject& owner);
 

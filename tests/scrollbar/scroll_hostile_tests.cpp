@@ -114,8 +114,7 @@ TEST_F(ScrollHostile, BarDestroyedWhileItsTimersRun)
     {
         PluginScrollBar dragged(false);
         MakeOwned(dragged, host.owner);
-        Send(dragged, DMOUSE_LBUTTONDOWN, kBarX, 20);
-        Send(dragged, DMOUSE_MOVE, kBarX, 40);
+        GrabThumbAndDrag(dragged);
         Send(dragged, DMOUSE_MOVE, kBarX, 50);  // the drag timer now runs too
         ASSERT_TRUE(Internals::DragTimerRunning(dragged));
         ASSERT_TRUE(Internals::RepeatRunning(dragged));

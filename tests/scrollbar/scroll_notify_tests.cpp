@@ -110,8 +110,7 @@ TEST_F(ScrollNotify, ImmediateDragReportsNothing)
     OwnerAndParent host("d", "d\\e");
     PluginScrollBar bar(true);
     MakeOwned(bar, host.owner);
-    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 20);
-    EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, Send(bar, DMOUSE_MOVE, kBarX, 40));
+    EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, GrabThumbAndDrag(bar));
     EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, Send(bar, DMOUSE_MOVE, kBarX, 50));
     EXPECT_EQ(44, bar.GetScrollPos());
     Pump(400);
@@ -127,9 +126,8 @@ TEST_F(ScrollNotify, ThrottledDragDefersItsReportByAHundredMilliseconds)
     OwnerAndParent host("t", "t\\u");
     PluginScrollBar bar(false);
     MakeOwned(bar, host.owner);
-    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 20);
-    EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, Send(bar, DMOUSE_MOVE, kBarX, 40));
-    EXPECT_EQ(29, bar.GetScrollPos());  // (40 - 3 - 17) * 100 / 68
+    EXPECT_EQ(PluginScrollBar::MOUSE_HANDLED, GrabThumbAndDrag(bar));
+    EXPECT_EQ(29, bar.GetScrollPos());
     DWORD deferred = ::GetTickCount();
     EXPECT_EQ(PluginScrollBar::MOUSE_IGNORED, Send(bar, DMOUSE_MOVE, kBarX, 50));
     EXPECT_EQ(44, bar.GetScrollPos());
