@@ -290,6 +290,14 @@ TEST_F(ScrollDrawingBare, WithoutTheStripStripColumnsAreFillsAndFacesHaveNoArt)
     CRect piece(2, 2, 20, 20);
     Internals::DrawPiece(bar, sheet.dc(), &piece, 250, 0);
     EXPECT_EQ(18 * 18, sheet.Count(kBar, piece));
+    // Types 100 to 132 still take the gradient path: its black frame, around no column art.
+    Sheet gradient(30, 30);
+    Internals::DrawPiece(bar, gradient.dc(), &piece, 120, 0);
+    EXPECT_EQ(0u, gradient.At(2, 10));
+    EXPECT_EQ(0u, gradient.At(19, 10));
+    EXPECT_EQ(0u, gradient.At(10, 19));
+    EXPECT_NE(kBar, gradient.At(10, 10));
+    EXPECT_TRUE(gradient.check.Unchanged());
     DrawnBar drawn(40);
     EXPECT_EQ(kLine, drawn.At(0, 50));  // the background piece still
     EXPECT_TRUE(drawn.sheet.check.Unchanged());
