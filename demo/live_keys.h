@@ -1,4 +1,5 @@
-// The live window's keys. To add one, write its action and add a line to kLiveKeys.
+// The live window's keys. To add one, write its action and add a line to kLiveKeys; an action
+// that makes another scheme active calls LiveWindow::SchemeChanged afterwards.
 #pragma once
 #include <windows.h>
 

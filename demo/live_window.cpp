@@ -80,8 +80,12 @@ void LiveWindow::Close()
 void LiveWindow::NextScheme()
 {
     KivStyleMgr* styles = KivStyleMgr::GetInstance();
-    if (!styles->LoadStyle(NextSchemeName(styles->GetCurrentStyle()))) return;
-    m_panel.RenewBars();  // the old scheme's button strip is gone
+    if (styles->LoadStyle(NextSchemeName(styles->GetCurrentStyle()))) SchemeChanged();
+}
+
+void LiveWindow::SchemeChanged()
+{
+    m_panel.RenewBars();
     ShowTitle();
     ::InvalidateRect(m_hwnd, nullptr, FALSE);
 }

@@ -20,6 +20,9 @@ public:
     void Close();
     // Loads the catalogue's next scheme and repaints.
     void NextScheme();
+    // To be called after anything else made another scheme (or the same one, reloaded) active:
+    // the bars take the new button strip (the old one is gone), the title and the window follow.
+    void SchemeChanged();
 
     HWND Handle() const { return m_hwnd; }
     ScrollPanel& Panel() { return m_panel; }
