@@ -140,6 +140,15 @@ public:
     BOOL RoundRect(LPCRECT r, POINT point) { return RoundRect(r->left, r->top, r->right, r->bottom, point.x, point.y); }
     BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
     BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
+    // Both handles, as MFC does; answers the previous origin.
+    CPoint SetWindowOrg(int x, int y)
+    {
+        POINT old = {0, 0};
+        if (m_hDC != m_hAttribDC) ::SetWindowOrgEx(m_hDC, x, y, &old);
+        if (m_hAttribDC != nullptr) ::SetWindowOrgEx(m_hAttribDC, x, y, &old);
+        return CPoint(old);
+    }
+    CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
     CPoint MoveTo(int x, int y)
     {
         POINT old = {0, 0};

@@ -4,6 +4,7 @@
 #include "demo/panel.h"
 #include "demo/picture.h"
 #include "demo/piece_sheet.h"
+#include "demo/scroll_sheet.h"
 #include "kiv_base/text.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/style/style_catalogue.h"
@@ -89,6 +90,14 @@ bool RenderMarkupSheet(const CString& scheme, const std::string& folder)
     return Save(sheet, folder, scheme, "markup") && SaveMarkupLines(sheet, folder, scheme);
 }
 
+bool RenderScrollSheet(const CString& scheme, const std::string& folder)
+{
+    CSize size = ScrollSheetSize();
+    Picture sheet(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
+    DrawScrollSheet(sheet.dc(), SheetTitle("The scroll bar", scheme).c_str());
+    return Save(sheet, folder, scheme, "scroll");
+}
+
 }  // namespace
 
 bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
@@ -101,7 +110,8 @@ bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
     }
     bool panelSaved = RenderPanel(scheme, folder);
     bool sheetSaved = RenderSheet(scheme, folder);
-    return RenderMarkupSheet(scheme, folder) && sheetSaved && panelSaved;
+    bool scrollSaved = RenderScrollSheet(scheme, folder);
+    return RenderMarkupSheet(scheme, folder) && sheetSaved && panelSaved && scrollSaved;
 }
 
 bool RenderGallery(const std::string& folder)

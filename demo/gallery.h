@@ -3,8 +3,9 @@
 #include <afxwin.h>
 #include <string>
 
-// Writes <scheme>_panel.png (a mock quote panel) and <scheme>_pieces.png (every piece on its
-// own, named) for one scheme into folder, creating the folder if needed, and prints each path.
+// Writes <scheme>_panel.png (a mock quote panel), <scheme>_pieces.png (every piece on its
+// own, named), <scheme>_markup.png and <scheme>_scroll.png (the scrolled quote panel) for one
+// scheme into folder, creating the folder if needed, and prints each path.
 // The style manager must be initialised. False when the scheme does not load or a file cannot
 // be written.
 bool RenderSchemeGallery(const CString& scheme, const std::string& folder);

@@ -3,24 +3,35 @@
 // demo's message catalogue (locale\zh_CN\LC_MESSAGES\kiv_demo.mox), then paints its gallery.
 //
 //     kiv_demo [--gallery FOLDER]     the gallery's PNG files go to FOLDER (default "gallery")
+//     kiv_demo --window [--close-after MS]
+//                                     the live window instead, closing itself after MS if given
 #include "demo/gallery.h"
 #include "demo/intl_report.h"
+#include "demo/live_window.h"
 #include "demo/style_report.h"
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <string>
 
 int main(int argc, char** argv)
 {
     std::string folder = "gallery";
+    bool window = false;
+    UINT closeAfter = 0;
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--gallery") == 0 && i + 1 < argc) {
             folder = argv[++i];
+        } else if (std::strcmp(argv[i], "--window") == 0) {
+            window = true;
+        } else if (std::strcmp(argv[i], "--close-after") == 0 && i + 1 < argc) {
+            closeAfter = static_cast<UINT>(std::strtoul(argv[++i], nullptr, 10));
         } else {
-            std::printf("usage: kiv_demo [--gallery FOLDER]\n");
+            std::printf("usage: kiv_demo [--gallery FOLDER] | --window [--close-after MS]\n");
             return 2;
         }
     }
+    if (window) return RunLiveWindow(closeAfter);
     ReportDpiSettings();
     bool schemesLoaded = ReportSchemes();
     ReportTranslations();

@@ -80,14 +80,6 @@ void DrawQuoteRow(Painter& p, const Quote& quote, const CRect& row)
     WriteCell(p.dc, quote.volume, cells[5], DT_RIGHT, SchemeColor("PLUG_TIME_COLOR1"));
 }
 
-// The selected row: a band of the selection colour faded into the background, framed in it.
-void MarkSelected(Painter& p, const CRect& row)
-{
-    COLORREF selection = SchemeColor("PLUG_SELCOLOR");
-    KivDraw::FillRect(p.dc, &row, KivDraw::MakeMixColor(p.dc, selection, SchemeColor("PLUG_BGCOLOR"), 45));
-    KivDraw::DrawPluginSelect(p.dc, &row, 1, PS_SOLID, 0);
-}
-
 void DrawQuoteTable(Painter& p, const CRect& band)
 {
     CRect row(band.left, band.top, band.right, band.top + kRow);
@@ -98,7 +90,7 @@ void DrawQuoteTable(Painter& p, const CRect& band)
     for (int i = 0; i < static_cast<int>(std::size(kQuotes)); ++i) {
         row.OffsetRect(0, kRow);
         // Dotted lines part the rows; the selection's frame stands in for its own and the one above.
-        if (i == kSelectedQuote) MarkSelected(p, row);
+        if (i == kSelectedQuote) MarkSelectedRow(p.dc, row);
         else if (i + 1 != kSelectedQuote) p.kit.HoriDotLine(p.dc, row.left, row.right, row.bottom - 1);
         DrawQuoteRow(p, kQuotes[i], row);
     }

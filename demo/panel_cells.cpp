@@ -45,3 +45,10 @@ void WriteCutCell(CDC* dc, const char* text, const CRect& cell, COLORREF color)
     KivDraw::TextOutLimitWidth(dc, &cell, kiv_base::text::Utf8toUtf16(text), count,
                                CRect(kCellInset, top, kCellInset, 0), 0);
 }
+
+void MarkSelectedRow(CDC* dc, const CRect& row)
+{
+    COLORREF selection = SchemeColor("PLUG_SELCOLOR");
+    KivDraw::FillRect(dc, &row, KivDraw::MakeMixColor(dc, selection, SchemeColor("PLUG_BGCOLOR"), 45));
+    KivDraw::DrawPluginSelect(dc, &row, 1, PS_SOLID, 0);
+}

@@ -25,3 +25,5 @@ COLORREF HeadingColor(CDC* dc);
 void WriteCell(CDC* dc, const char* text, CRect cell, UINT align, COLORREF color);
 // The same, left-aligned and cut to the cell's width by the kit.
 void WriteCutCell(CDC* dc, const char* text, const CRect& cell, COLORREF color);
+// The selected row: a band of the selection colour faded into the background, framed in it.
+void MarkSelectedRow(CDC* dc, const CRect& row);

@@ -97,6 +97,20 @@ TEST_F(SplitHandles, SettersChangeBothHandles)
     EXPECT_EQ(TRANSPARENT, GetBkMode(split.m_hAttribDC));
 }
 
+TEST_F(SplitHandles, WindowOriginMovesOnBothHandles)
+{
+    EXPECT_EQ(CPoint(0, 0), split.SetWindowOrg(-3, 2));
+    POINT out, attr;
+    GetWindowOrgEx(split.m_hDC, &out);
+    GetWindowOrgEx(split.m_hAttribDC, &attr);
+    EXPECT_EQ(CPoint(-3, 2), CPoint(out));
+    EXPECT_EQ(CPoint(-3, 2), CPoint(attr));
+    split.SetPixel(0, 0, RGB(1, 2, 3));  // logical (0, 0) is device (3, -2): off the bitmap
+    split.SetPixel(-3, 2, RGB(4, 5, 6));  // device (0, 0)
+    EXPECT_EQ(RGB(4, 5, 6), output.Pixel(0, 0));
+    EXPECT_EQ(CPoint(-3, 2), split.SetWindowOrg(CPoint(0, 0)));
+}
+
 TEST_F(SplitHandles, OutputGoesToTheOutputHandle)
 {
     split.FillSolidRect(0, 0, 8, 8, RGB(0, 128, 0));

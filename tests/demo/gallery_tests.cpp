@@ -7,6 +7,7 @@
 #include "demo/panel_market.h"
 #include "demo/piece_sheet.h"
 #include "demo/png_writer.h"
+#include "demo/scroll_sheet.h"
 #include "kiv_skin/draw/plugin_title.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "png_reader.h"
@@ -74,6 +75,7 @@ protected:
         s_panel = ReadPng(Wide(s_folder->Path("dark_panel.png")));
         s_sheet = ReadPng(Wide(s_folder->Path("dark_pieces.png")));
         s_markup = ReadPng(Wide(s_folder->Path("dark_markup.png")));
+        s_scroll = ReadPng(Wide(s_folder->Path("dark_scroll.png")));
     }
     static void TearDownTestSuite() { s_folder.reset(); }
 
@@ -84,11 +86,12 @@ protected:
         ASSERT_EQ(S_OK, s_panel.result);
         ASSERT_EQ(S_OK, s_sheet.result);
         ASSERT_EQ(S_OK, s_markup.result);
+        ASSERT_EQ(S_OK, s_scroll.result);
     }
 
     static std::unique_ptr<ScratchDir> s_folder;
     static bool s_initialised, s_written;
-    static DecodedPng s_panel, s_sheet, s_markup;
+    static DecodedPng s_panel, s_sheet, s_markup, s_scroll;
 };
 
 std::unique_ptr<ScratchDir> DarkGallery::s_folder;
@@ -97,6 +100,7 @@ bool DarkGallery::s_written = false;
 DecodedPng DarkGallery::s_panel;
 DecodedPng DarkGallery::s_sheet;
 DecodedPng DarkGallery::s_markup;
+DecodedPng DarkGallery::s_scroll;
 
 TEST_F(DarkGallery, WritesOpaqueBgraPngFilesOfThePanelAndTheSheet)
 {
@@ -104,6 +108,21 @@ TEST_F(DarkGallery, WritesOpaqueBgraPngFilesOfThePanelAndTheSheet)
     EXPECT_TRUE(s_sheet.bgra);
     EXPECT_EQ(s_panel.width * s_panel.height, OpaquePixels(s_panel));
     EXPECT_EQ(s_sheet.width * s_sheet.height, OpaquePixels(s_sheet));
+}
+
+// Three panels, each with a vertical bar whose frame runs down both its sides beside about 15
+// rows, and a horizontal bar.
+TEST_F(DarkGallery, ScrollSheetShowsThePanelsAndTheirBars)
+{
+    CSize size = ScrollSheetSize();
+    ASSERT_EQ(size.cx, s_scroll.width);
+    ASSERT_EQ(size.cy, s_scroll.height);
+    EXPECT_EQ(size.cx * size.cy, OpaquePixels(s_scroll));
+    COLORREF frame = KivStyleMgr::GetInstance()->GetColor("SCROLLBARLINE");
+    int framePixels = 0;
+    for (int y = 0; y < s_scroll.height; ++y)
+        for (int x = 0; x < s_scroll.width; ++x) framePixels += s_scroll.Color(x, y) == frame ? 1 : 0;
+    EXPECT_GT(framePixels, 3 * 2 * 15 * 20);
 }
 
 TEST_F(DarkGallery, PanelFileHoldsExactlyWhatThePanelPaints)

@@ -1,0 +1,106 @@
+// The repeat timer for real, through this thread's message loop: holding an arrow and holding
+// the track. Times are asserted within ranges that a loaded machine keeps.
+#include "scroll_fixture.h"
+#include <algorithm>
+
+namespace {
+
+class ScrollTimer : public TestScheme {
+protected:
+    void SetUp() override
+    {
+        registration.Add("timer\\list", &owner);
+        MakeOwned(bar, owner);
+    }
+
+    std::vector<int> Positions() const
+    {
+        std::vector<int> positions;
+        for (const auto& r : owner.received) positions.push_back(r.pos);
+        return positions;
+    }
+
+    RecordingObject owner;
+    Registration registration;
+    PluginScrollBar bar;
+};
+
+TEST_F(ScrollTimer, HoldingTheSecondArrowRepeatsEveryHundredMillisecondsAfterThreeHundredAndStopsAtTheEnd)
+{
+    DWORD press = ::GetTickCount();
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
+    EXPECT_EQ(1, bar.GetScrollPos());
+    EXPECT_TRUE(owner.received.empty());  // no command for the press itself
+    ASSERT_TRUE(PumpUntil([&] { return bar.GetScrollPos() == 90; }, 30000));
+    DWORD reached = ::GetTickCount();
+    Pump(600);
+    Send(bar, DMOUSE_LBUTTONUP, kBarX, kSecondArrowY);
+
+    std::vector<int> expected;
+    for (int pos = 2; pos <= 90; ++pos) expected.push_back(pos);
+    EXPECT_EQ(expected, Positions());  // one line per tick, in order, and none after 90
+    EXPECT_EQ(90, bar.GetScrollPos());
+
+    ASSERT_EQ(89u, owner.received.size());
+    DWORD first = owner.received[0].tick - press;
+    EXPECT_GE(first, 280u);
+    EXPECT_LE(first, 1500u);
+    std::vector<DWORD> gaps;
+    for (size_t i = 1; i < owner.received.size(); ++i)
+        gaps.push_back(owner.received[i].tick - owner.received[i - 1].tick);
+    EXPECT_GE(*std::min_element(gaps.begin(), gaps.end()), 80u);
+    std::nth_element(gaps.begin(), gaps.begin() + gaps.size() / 2, gaps.end());
+    DWORD median = gaps[gaps.size() / 2];
+    EXPECT_GE(median, 90u);
+    EXPECT_LE(median, 250u);
+    RecordProperty("first_repeat_ms", static_cast<int>(first));
+    RecordProperty("median_repeat_ms", static_cast<int>(median));
+    RecordProperty("press_to_end_ms", static_cast<int>(reached - press));
+}
+
+TEST_F(ScrollTimer, ReleasingTheButtonStopsTheRepeat)
+{
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
+    ASSERT_TRUE(PumpUntil([&] { return bar.GetScrollPos() == 3; }, 5000));
+    Send(bar, DMOUSE_LBUTTONUP, kBarX, kSecondArrowY);
+    Pump(500);
+    EXPECT_EQ(3, bar.GetScrollPos());
+}
+
+TEST_F(ScrollTimer, LeavingTheBarStopsTheRepeat)
+{
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
+    Send(bar, DMOUSE_MOVE, 40, 40);
+    Pump(600);
+    EXPECT_EQ(1, bar.GetScrollPos());
+    EXPECT_TRUE(owner.received.empty());
+}
+
+// Pressed at y 70 on the track: pages 10, 20 ... until the thumb (64-72 at position 70) reaches
+// the mouse, and goes on when the mouse moves further down.
+TEST_F(ScrollTimer, HoldingTheTrackPagesUntilTheThumbReachesTheMouseThenResumesWhenItMovesOn)
+{
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 70);
+    EXPECT_EQ(10, bar.GetScrollPos());
+    ASSERT_TRUE(PumpUntil([&] { return bar.GetScrollPos() == 70; }, 10000));
+    Pump(700);  // paused under the mouse
+    EXPECT_EQ(70, bar.GetScrollPos());
+    EXPECT_EQ((std::vector<int>{20, 30, 40, 50, 60, 70}), Positions());
+
+    EXPECT_EQ(PluginScrollBar::MOUSE_IGNORED, Send(bar, DMOUSE_MOVE, kBarX, 80));
+    ASSERT_TRUE(PumpUntil([&] { return bar.GetScrollPos() == 90; }, 5000));
+    Pump(500);
+    Send(bar, DMOUSE_LBUTTONUP, kBarX, 80);
+    EXPECT_EQ((std::vector<int>{20, 30, 40, 50, 60, 70, 80, 90}), Positions());
+}
+
+TEST_F(ScrollTimer, HoldingTheThumbChangesNothing)
+{
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, 20);
+    Pump(600);
+    Send(bar, DMOUSE_LBUTTONUP, kBarX, 20);
+    EXPECT_EQ(0, bar.GetScrollPos());
+    EXPECT_TRUE(owner.received.empty());
+}
+
+}  // namespace
