@@ -1,5 +1,6 @@
 // Stands in for the host: loads the sample schemes installed beside it, paints the plug-in's
-// panel into a 24-bit bitmap and writes it to panel.bmp (or the file named as the argument).
+// panel scrolled to its third quote into a 24-bit bitmap and writes it to panel.bmp (or the file
+// named as the argument).
 #include "quote_panel.h"
 #include <afxwin.h>
 #include <kiv_skin/style/kiv_style_mgr.h>
@@ -38,7 +39,7 @@ int main(int argc, char** argv)
     HBITMAP bitmap = ::CreateDIBSection(dc, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
     HGDIOBJ old = ::SelectObject(dc, bitmap);
     const RECT area = {0, 0, kWidth, kHeight};
-    PaintQuotePanel(dc, &area);
+    PaintQuotePanel(dc, &area, 2);
     ::GdiFlush();
     const char* path = argc > 1 ? argv[1] : "panel.bmp";
     const bool written = WriteBmp(path, info, pixels);

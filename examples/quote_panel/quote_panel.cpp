@@ -1,9 +1,11 @@
 // A plug-in panel drawn with kiv_skin: the panel's frame, the title bar, a quote list whose
-// rows are markup (names in the scheme's text colours) and prices with underlined fractions.
+// rows are markup (names in the scheme's text colours), prices with underlined fractions, and a
+// scroll bar over the rows.
 #include "quote_panel.h"
 #include <afxwin.h>
 #include <kiv_skin/draw/kiv_draw.h>
 #include <kiv_skin/draw/plugin_title.h>
+#include <kiv_skin/scrollbar/plugin_scroll_bar.h>
 #include <kiv_skin/style/kiv_style_mgr.h>
 
 using kiv_skin::KivDraw;
@@ -21,7 +23,13 @@ const Quote kQuotes[] = {
     {"<*sc=EQUTEXT*>000001 <*sc*>Ping An Bank", "10.32", 0},
     {"<*sc=DOWNTEXT*>300750 <*sc*>CATL", "201.17", -1},
     {"<*sc=UPTEXT*>601318 <*sc*>Ping An", "48.06", 1},
+    {"<*sc=DOWNTEXT*>600036 <*sc*>CM Bank", "35.20", -1},
+    {"<*sc=UPTEXT*>000858 <*sc*>Wuliangye", "152.88", 1},
+    {"<*sc=EQUTEXT*>601988 <*sc*>Bank of China", "4.05", 0},
+    {"<*sc=UPTEXT*>002594 <*sc*>BYD", "263.40", 1},
 };
+const int kQuoteCount = int(sizeof kQuotes / sizeof kQuotes[0]);
+const int kRowHeight = 20;
 
 const char* TrendColourKey(int trend) { return trend > 0 ? "UPTEXT" : trend < 0 ? "DOWNTEXT" : "EQUTEXT"; }
 
@@ -37,24 +45,29 @@ void PaintRow(CDC* dc, KivDraw& draw, const CRect& row, const Quote& quote)
 
 }  // namespace
 
-void PaintQuotePanel(HDC hdc, const RECT* area)
+void PaintQuotePanel(HDC hdc, const RECT* area, int firstRow)
 {
     CDC* dc = CDC::FromHandle(hdc);
     KivDraw::DrawPluginFrame(dc, area);
     kiv_skin::PluginTitle title("Quotes");
-    CRect band(area->left + 1, area->top + 1, area->right - 1, area->bottom);
+    CRect band(area->left + 1, area->top + 1, area->right - 1, area->bottom - 1);
     title.Draw(dc, band);
+    const CRect list(band.left, band.top + title.GetAreaHeight(dc), band.right, band.bottom);
+    // The bar takes the list's right edge; its position is the first row shown.
+    kiv_skin::PluginScrollBar bar;
+    bar.SetScrollInfo(list, kRowHeight, kQuoteCount, 0);
+    bar.SetScrollPos(firstRow);
     // Rows on the panel's own background; untagged text in the unchanged-price colour.
     const int oldMode = dc->SetBkMode(TRANSPARENT);
     const COLORREF oldColour = dc->SetTextColor(kiv_skin::KivStyleMgr::GetInstance()->GetColor("EQUTEXT"));
     KivDraw draw;
-    const int rowHeight = 20;
-    CRect row(band.left, band.top + title.GetAreaHeight(dc), band.right, 0);
-    for (const Quote& quote : kQuotes) {
-        row.bottom = row.top + rowHeight;
-        PaintRow(dc, draw, row, quote);
+    CRect row(list.left, list.top, bar.GetScrollRect().left, 0);
+    for (int i = bar.GetScrollPos(); i < kQuoteCount && row.top + kRowHeight <= list.bottom; ++i) {
+        row.bottom = row.top + kRowHeight;
+        PaintRow(dc, draw, row, kQuotes[i]);
         row.top = row.bottom;
     }
     dc->SetTextColor(oldColour);
     dc->SetBkMode(oldMode);
+    bar.Draw(dc);
 }

@@ -8,5 +8,6 @@
 #define QUOTE_PANEL_API __declspec(dllimport)
 #endif
 
-// The panel fills area: frame, title bar, and one quote per row below it.
-QUOTE_PANEL_API void PaintQuotePanel(HDC dc, const RECT* area);
+// The panel fills area: frame, title bar, and one quote per row below it from firstRow on, with
+// a scroll bar at the right.
+QUOTE_PANEL_API void PaintQuotePanel(HDC dc, const RECT* area, int firstRow);

@@ -43,7 +43,8 @@ check grep -q "$prefix/include" example/build.ninja
 checks=$((checks + 1))
 grep -q "$source_root/kiv_skin\|$source_root/compat" example/build.ninja && fail "the example reaches into the source tree"
 (cd example && "$source_root/cmake/wine-run" paint_panel.exe "panel.bmp") >run.log 2>&1 || fail "paint_panel failed: $(cat run.log)"
-# Pixels of the dark scheme: the frame, the title band, and rising prices in their colour.
+# Pixels of the dark scheme: the frame, the title band, rising prices in their colour, and the
+# scroll bar's frame at the right.
 checks=$((checks + 1))
 python3 - example/panel.bmp <<'PY' || fail "the panel's pixels are not the dark scheme's"
 import struct, sys
@@ -54,8 +55,9 @@ stride = (width * 3 + 3) // 4 * 4
 def pixel(x, y):
     b, g, r = data[offset + (height - 1 - y) * stride + 3 * x:][:3]
     return r << 16 | g << 8 | b
-row_of_rise = set(pixel(x, y) for x in range(width // 2, width) for y in range(20, 38))
-checks = [pixel(0, 0) == 0x505058, pixel(5, 5) == 0x181820, 0xFF5454 in row_of_rise]
+prices = set(pixel(x, y) for x in range(width // 2, width - 20) for y in range(20, height - 2))
+bar = set(pixel(x, 60) for x in range(width - 20, width))
+checks = [pixel(0, 0) == 0x505058, pixel(5, 5) == 0x181820, 0xFF5454 in prices, 0x484850 in bar]
 print(checks)
 sys.exit(0 if all(checks) else 1)
 PY
