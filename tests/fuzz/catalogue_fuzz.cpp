@@ -3,10 +3,9 @@
 // reference map (cut at their first zero byte, the last record of a key winning, a key cut to
 // nothing left out), and answer
 // every key with the reference translation; near misses of every key must answer as the map does.
+#include "fuzz_check.h"
 #include "kiv_skin/intl/mox_index.h"
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 
 using kiv_skin::mox::Catalogue;
@@ -15,13 +14,7 @@ using kiv_skin::mox::WalkResult;
 
 namespace {
 
-void Check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "catalogue index: %s\n", what);
-        std::abort();
-    }
-}
+void Check(bool holds, const char* what) { CheckProperty(holds, "catalogue index", what); }
 
 // The index's answer for key, as the C string it stands for, against the map's.
 void CheckFind(const Index& index, const Catalogue& reference, const std::string& text)

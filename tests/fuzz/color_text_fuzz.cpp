@@ -2,11 +2,10 @@
 // read both as a colour file's "value" and as an image file's "mask". The value rule is checked
 // against its guarantees (no colour without "0x"; never more than 24 bits; the plain "0x"-and-hex
 // shape read exactly), the mask rule against a model that reads the digits itself.
+#include "fuzz_check.h"
 #include "kiv_skin/style/color_text.h"
 #include <climits>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <string>
@@ -18,13 +17,7 @@ namespace {
 
 const uint32_t kNoColor = 0xFFFFFFFF;
 
-void Check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "colour texts: %s\n", what);
-        std::abort();
-    }
-}
+void Check(bool holds, const char* what) { CheckProperty(holds, "colour texts", what); }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 

@@ -1,30 +1,16 @@
 // Fuzz target of moxc's .mo reader. Any input must either give messages or throw InputError.
 // Messages read are written back as a .mo file in both byte orders and must read back the same.
+#include "fuzz_check.h"
+#include "message_pairs.h"
 #include "mo_files.h"
 #include "tools/moxc/mo_reader.h"
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <map>
 
 using moxc::MessageSet;
 
 namespace {
 
-void Check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, ".mo reader: %s\n", what);
-        std::abort();
-    }
-}
-
-std::map<std::string, std::string> Pairs(const MessageSet& set)
-{
-    std::map<std::string, std::string> pairs;
-    for (const moxc::Message& message : set.messages) pairs[message.key] = message.value;
-    return pairs;
-}
+void Check(bool holds, const char* what) { CheckProperty(holds, ".mo reader", what); }
 
 }  // namespace
 

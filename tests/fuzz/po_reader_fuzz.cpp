@@ -1,30 +1,16 @@
 // Fuzz target of moxc's .po reader. Any input must either give messages or throw InputError.
 // Messages read are written back with moxc's own .po writer and must read back the same.
+#include "fuzz_check.h"
+#include "message_pairs.h"
 #include "tools/moxc/po_reader.h"
 #include "tools/moxc/po_writer.h"
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <map>
 
 using moxc::MessageSet;
 
 namespace {
 
-void Check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, ".po reader: %s\n", what);
-        std::abort();
-    }
-}
-
-std::map<std::string, std::string> Pairs(const MessageSet& set)
-{
-    std::map<std::string, std::string> pairs;
-    for (const moxc::Message& message : set.messages) pairs[message.key] = message.value;
-    return pairs;
-}
+void Check(bool holds, const char* what) { CheckProperty(holds, ".po reader", what); }
 
 }  // namespace
 

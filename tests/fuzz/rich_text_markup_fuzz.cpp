@@ -1,10 +1,9 @@
 // Fuzz target of the markup grammar. Each input is parsed as a C string (up to its first zero
 // byte) from a heap copy of exactly that size, and the runs are checked against a byte-by-byte
 // model of the grammar and against their own rewriting as markup. Any difference aborts.
+#include "fuzz_check.h"
 #include "kiv_skin/draw/rich_text_markup.h"
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 
@@ -15,13 +14,7 @@ namespace {
 
 typedef std::vector<MarkupRun> Runs;
 
-void Check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "rich text markup: %s\n", what);
-        std::abort();
-    }
-}
+void Check(bool holds, const char* what) { CheckProperty(holds, "rich text markup", what); }
 
 // The grammar read one byte at a time, as a second opinion on the parser.
 Runs ModelRuns(const char* markup)

@@ -4,23 +4,16 @@
 // pixels, totals up to ten million lines) every step must keep its promises: the position within
 // 0 and total - page, arrows, track and thumb in order inside the bar, a thumb of at least 8
 // pixels when the track has room, and the pixels at every edge on the right side of it.
+#include "fuzz_check.h"
 #include "kiv_skin/scrollbar/scroll_arithmetic.h"
 #include <fuzzer/FuzzedDataProvider.h>
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 
 using namespace kiv_skin::scroll_arithmetic;
 
 namespace {
 
-void Check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "scroll arithmetic: %s\n", what);
-        std::abort();
-    }
-}
+void Check(bool holds, const char* what) { CheckProperty(holds, "scroll arithmetic", what); }
 
 // A number: mostly within what a panel meets, sometimes anything at all.
 int Number(FuzzedDataProvider& in, int low, int high)
