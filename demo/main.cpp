@@ -3,6 +3,7 @@
 // demo's message catalogue (locale\zh_CN\LC_MESSAGES\kiv_demo.mox), then paints its gallery.
 //
 //     kiv_demo [--gallery FOLDER]     the gallery's PNG files go to FOLDER (default "gallery")
+#include "demo/dialog_shots.h"
 #include "demo/gallery.h"
 #include "demo/intl_report.h"
 #include "demo/style_report.h"
@@ -25,5 +26,6 @@ int main(int argc, char** argv)
     bool schemesLoaded = ReportSchemes();
     ReportTranslations();
     bool galleryWritten = schemesLoaded && RenderGallery(folder);
-    return galleryWritten ? 0 : 1;
+    bool dialogShot = schemesLoaded && RenderDialogShots(folder);
+    return galleryWritten && dialogShot ? 0 : 1;
 }
