@@ -8,8 +8,9 @@ namespace {
 const int kRedField = 706;
 const int kGreenField = 707;
 const int kBlueField = 708;
-// The font chooser's list of faces.
+// The font chooser's lists of faces and sizes.
 const int kFaceList = 0x470;
+const int kSizeList = 0x472;
 const UINT kTickMs = 20;
 
 DialogDriver* g_driver = nullptr;
@@ -186,6 +187,26 @@ DialogDriver::Step KeepColor()
     return [] {
         HWND chooser = FindColorChooser();
         if (chooser == nullptr) return false;
+        PostMessageA(GetDlgItem(chooser, IDOK), BM_CLICK, 0, 0);
+        return true;
+    };
+}
+
+// Selects text in the chooser's combo box id as a click on it would.
+void ChooseInCombo(HWND chooser, int id, const std::string& text)
+{
+    HWND combo = GetDlgItem(chooser, id);
+    SendMessageA(combo, CB_SELECTSTRING, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text.c_str()));
+    SendMessageA(chooser, WM_COMMAND, MAKEWPARAM(id, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+}
+
+DialogDriver::Step AnswerFont(const std::string& face, const std::string& size)
+{
+    return [face, size] {
+        HWND chooser = FindFontChooser();
+        if (chooser == nullptr) return false;
+        ChooseInCombo(chooser, kFaceList, face);
+        ChooseInCombo(chooser, kSizeList, size);
         PostMessageA(GetDlgItem(chooser, IDOK), BM_CLICK, 0, 0);
         return true;
     };

@@ -52,5 +52,7 @@ DialogDriver::Step Press(int buttonId);
 DialogDriver::Step AnswerColor(COLORREF color, COLORREF* seen = nullptr);
 // Presses OK in the colour chooser without changing anything.
 DialogDriver::Step KeepColor();
+// Chooses face and size (in points, as the size list shows it) in the font chooser and presses OK.
+DialogDriver::Step AnswerFont(const std::string& face, const std::string& size);
 // Presses button in the message box that reads text.
 DialogDriver::Step AnswerMessageBox(const std::wstring& text, int button);

@@ -32,6 +32,12 @@ int ColorRow(const std::string& path, const char* key)
     return -1;
 }
 
+int RowInDarkAndLight(const SchemeFilesKeeper& files, const char* key)
+{
+    int row = ColorRow(files.Path("dark"), key);
+    return row == ColorRow(files.Path("light"), key) ? row : -1;
+}
+
 std::string WithColorValue(std::string text, const std::string& key, COLORREF color)
 {
     std::string anchor = "name=\"" + key + "\" value=\"";

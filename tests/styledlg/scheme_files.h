@@ -22,6 +22,9 @@ private:
 
 // The position of key among the colours of the file, or -1.
 int ColorRow(const std::string& path, const char* key);
+// The row of key in the dark and light schemes, which list their colours in the same order; -1
+// when it is missing or stands in different rows.
+int RowInDarkAndLight(const SchemeFilesKeeper& files, const char* key);
 // What saving text makes of it with the colour key set to color: the value in the file's
 // notation and, as TinyXML writes text files on Windows, every line ended by CR LF. Every other
 // byte stays.
