@@ -5,6 +5,7 @@
 //     kiv_demo [--gallery FOLDER]     the gallery's PNG files go to FOLDER (default "gallery")
 //     kiv_demo --window [--close-after MS]
 //                                     the live window instead, closing itself after MS if given
+#include "demo/dialog_shots.h"
 #include "demo/gallery.h"
 #include "demo/intl_report.h"
 #include "demo/live_window.h"
@@ -36,5 +37,6 @@ int main(int argc, char** argv)
     bool schemesLoaded = ReportSchemes();
     ReportTranslations();
     bool galleryWritten = schemesLoaded && RenderGallery(folder);
-    return galleryWritten ? 0 : 1;
+    bool dialogShot = schemesLoaded && RenderDialogShots(folder);
+    return galleryWritten && dialogShot ? 0 : 1;
 }

@@ -24,6 +24,10 @@ public:
     // Makes the named style active; 1 on success (and, before InitStyleMgr, for any known name
     // without loading it).
     int LoadStyle(const CString& name);
+    // Runs the style dialog with this library's resources. After OK, reloads each scheme the
+    // dialog saved and the chosen one if it was edited; 1 with name set to the chosen scheme
+    // when that reload succeeded. Cancel, or OK on a scheme only selected, gives 0.
+    int SetKivStyle(CString& name);
     // The name of the active style, as it was asked for.
     CString GetCurrentStyle() const { return m_strCurrentStyle; }
 
