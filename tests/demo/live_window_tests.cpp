@@ -1,11 +1,14 @@
 // The demo's live window under the X server, driven by synthetic mouse and keyboard messages:
-// holding the down arrow, dragging the thumb, the wheel and the scheme key, checked on the bars'
-// positions, the host commands that went through the reference command system, and the pixels
-// of the window's screen image. Each window closes itself after a minute at the latest.
+// holding the down arrow, dragging the thumb, the wheel, the scheme key and the editor key,
+// checked on the bars' positions, the host commands that went through the reference command
+// system, and the pixels of the window's screen image. Each window closes itself after a minute
+// at the latest; the style editor is ended by its driver's watchdog.
 #include "demo/live_window.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
+#include "support/dialog_driver.h"
 #include "support/dib_canvas.h"
 #include "support/message_pump.h"
+#include "support/scheme_files.h"
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -117,6 +120,25 @@ TEST_F(LiveWindowTest, SchemeKeySwitchesTheSchemeLive)
     CRect bar = Rows().GetScrollRect();
     EXPECT_EQ(KivStyleMgr::GetInstance()->GetColor("SCROLLBARLINE"), shot->Pixel(bar.left, bar.CenterPoint().y));
     EXPECT_EQ(KivStyleMgr::GetInstance()->GetColor("PLUG_BGCOLOR"), shot->Pixel(bar.left + 8, bar.bottom - 30));  // the track below the thumb
+}
+
+TEST_F(LiveWindowTest, EditorKeyAppliesAColourEditedAndConfirmedInTheStyleEditor)
+{
+    SchemeFilesKeeper files;  // the editor saves into the dark scheme's file
+    const int row = ColorRow(files.Path("dark"), "PLUG_BGCOLOR");
+    ASSERT_GE(row, 0);
+    const COLORREF edited = 0x00402818;
+    DialogDriver driver;
+    driver.Then(PickListRow(1006, row)).Then(Press(1008)).Then(AnswerColor(edited)).Then(Press(IDOK));
+    ::PostMessageA(Hwnd(), WM_KEYDOWN, 'E', 0);
+    Pump(200);  // the editor's modal loop runs inside, until the driver presses OK
+    ASSERT_TRUE(driver.AllStepsRan());
+    EXPECT_FALSE(driver.TimedOut());
+    EXPECT_EQ("dark", std::string(KivStyleMgr::GetInstance()->GetCurrentStyle()));
+    EXPECT_EQ(edited, KivStyleMgr::GetInstance()->GetColor("PLUG_BGCOLOR"));
+    std::unique_ptr<DibCanvas> shot = Screenshot();
+    CRect bar = Rows().GetScrollRect();
+    EXPECT_EQ(edited, shot->Pixel(bar.left + 8, bar.bottom - 30));  // the track below the thumb
 }
 
 TEST_F(LiveWindowTest, ClosesItselfWhenAsked)

@@ -1,10 +1,10 @@
 // KivStyleMgr::SetKivStyle on the sample schemes installed beside this program, the style dialog
 // driven as a user would: what it answers, which files it wrote, and which scheme the manager
 // then holds. Every test puts the files and the active scheme back.
-#include "dialog_driver.h"
+#include "support/dialog_driver.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/style/color_table.h"
-#include "scheme_files.h"
+#include "support/scheme_files.h"
 #include <gtest/gtest.h>
 
 using kiv_skin::KivStyleMgr;

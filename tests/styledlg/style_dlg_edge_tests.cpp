@@ -1,7 +1,7 @@
 // The style dialog on catalogues made for its edge cases, written beside this program before each
 // test: no catalogue at all, an empty one, a scheme with fewer fonts or colours than its index
 // in the catalogue, and a colour row whose key is blank.
-#include "dialog_driver.h"
+#include "support/dialog_driver.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/styledlg/style_dlg.h"
 #include "support/test_files.h"

@@ -1,9 +1,9 @@
 // The style dialog itself on the sample schemes, driven as a user would: the confirmation prompt
 // and its two answers, the list of saved schemes, the colour display, the preview's clock and
 // the row a click highlights, read back from the screen.
-#include "dialog_driver.h"
+#include "support/dialog_driver.h"
 #include "kiv_skin/styledlg/style_dlg.h"
-#include "scheme_files.h"
+#include "support/scheme_files.h"
 #include "support/dib_canvas.h"
 #include <gtest/gtest.h>
 #include <memory>
