@@ -60,23 +60,23 @@ int CompareText(const char* a, const char* b)
 
 }  // namespace
 
-// Stable radix sort by head, a byte at a time from the lowest, skipping bytes all heads share.
+// Stable radix sort by head, a byte at a time from the lowest, over the bytes that differ
+// between heads.
 void Index::SortByHead(std::vector<Item>& items)
 {
-    const size_t kDigits = sizeof(uint64_t);
-    std::vector<size_t> starts(kDigits * 256);
-    for (const Item& item : items)
-        for (size_t d = 0; d < kDigits; ++d) ++starts[d * 256 + (item.head >> (8 * d) & 0xFF)];
+    uint64_t inAll = ~uint64_t(0), inAny = 0;
+    for (const Item& item : items) inAll &= item.head, inAny |= item.head;
     std::vector<Item> spare(items.size());
-    for (size_t d = 0; d < kDigits; ++d) {
-        size_t* start = &starts[d * 256];
-        if (start[items[0].head >> (8 * d) & 0xFF] == items.size()) continue;
+    for (unsigned shift = 0; shift < 64; shift += 8) {
+        if (((inAll ^ inAny) >> shift & 0xFF) == 0) continue;
+        size_t starts[256] = {};
+        for (const Item& item : items) ++starts[item.head >> shift & 0xFF];
         for (size_t digit = 0, offset = 0; digit < 256; ++digit) {
-            size_t n = start[digit];
-            start[digit] = offset;
+            size_t n = starts[digit];
+            starts[digit] = offset;
             offset += n;
         }
-        for (const Item& item : items) spare[start[item.head >> (8 * d) & 0xFF]++] = item;
+        for (const Item& item : items) spare[starts[item.head >> shift & 0xFF]++] = item;
         items.swap(spare);
     }
 }
@@ -86,27 +86,45 @@ WalkResult Index::Load(std::vector<char>&& file)
     Clear();
     if (file.size() > UINT32_MAX) return {Stop::TooLarge, 0, 0};
     m_bytes = std::move(file);
+    WalkResult result = CollectRecords();
+    if (m_entries.empty()) return result;
+    size_t outOfOrder = IndexInFileOrder();
+    if (outOfOrder < m_entries.size()) Sort(outOfOrder);
+    return result;
+}
+
+// Locals rather than members in the walk: its stores into the file's bytes could otherwise
+// alias the members and force them through memory at every record.
+WalkResult Index::CollectRecords()
+{
     char* base = m_bytes.data();
+    size_t size = m_bytes.size();
     // A translation's end is the next record's key length: terminated once that has been read.
     char* pendingEnd = nullptr;
     // Keys in any order share the prefix that the first shares with every other.
     const char* first = nullptr;
-    const char* wordsEnd = base + m_bytes.size() - std::min(m_bytes.size(), sizeof(uint64_t));
-    m_entries.reserve(m_bytes.size() / 32);
-    WalkResult result = WalkRecords(base, m_bytes.size(), [&](const char* key, size_t keySize, const char* value, size_t valueSize) {
+    size_t prefixLength = 0;
+    const char* wordsEnd = base + size - std::min(size, sizeof(uint64_t));
+    std::vector<Entry> entries;
+    entries.reserve(size / 32);
+    WalkResult result = WalkRecords(base, size, [&](const char* key, size_t keySize, const char* value, size_t valueSize) {
         if (pendingEnd) *pendingEnd = '\0';
         base[key - base + keySize] = '\0';  // over the translation length, already read
         pendingEnd = base + (value - base) + valueSize;
         // A key cut to nothing can never be asked for.
         if (*key == '\0') return;
-        m_prefixLength = first ? SharedLength(key, first, m_prefixLength, wordsEnd) : std::strlen(key);
+        prefixLength = first ? SharedLength(key, first, prefixLength, wordsEnd) : std::strlen(key);
         if (!first) first = key;
-        m_entries.push_back({uint32_t(key - base), uint32_t(value - base)});
+        // Filled in place: an entry built beside and copied in would be stored as two halves and
+        // loaded back whole, which stalls the copy at every record.
+        Entry& entry = entries.emplace_back();
+        entry.key = uint32_t(key - base);
+        entry.value = uint32_t(value - base);
     });
-    if (pendingEnd == base + m_bytes.size()) m_bytes.push_back('\0');
+    if (pendingEnd == base + size) m_bytes.push_back('\0');
     else if (pendingEnd) *pendingEnd = '\0';
-    if (m_entries.empty()) return result;
-    if (!IndexInFileOrder()) Sort();
+    m_entries = std::move(entries);
+    m_prefixLength = prefixLength;
     return result;
 }
 
@@ -158,6 +176,13 @@ size_t Index::MemoryUsed() const
     return m_bytes.capacity() + m_heads.capacity() * sizeof(uint64_t) + m_entries.capacity() * sizeof(Entry);
 }
 
+uint64_t Index::HeadAt(size_t i) const
+{
+    const char* rest = KeyAt(i) + m_prefixLength;
+    size_t readable = size_t(m_bytes.data() + m_bytes.size() - rest);
+    return readable >= kHeadSize ? HeadOfWord(rest) : Head(rest);
+}
+
 int Index::Compare(size_t i, uint64_t head, const char* rest) const
 {
     if (m_heads[i] != head) return m_heads[i] < head ? -1 : 1;
@@ -165,50 +190,47 @@ int Index::Compare(size_t i, uint64_t head, const char* rest) const
     return CompareText(KeyAt(i) + m_prefixLength + kHeadSize, rest + kHeadSize);
 }
 
-bool Index::IndexInFileOrder()
+size_t Index::IndexInFileOrder()
 {
     size_t count = m_entries.size();
-    m_heads.resize(count);
-    const char* wordsEnd = m_bytes.data() + m_bytes.size() - sizeof(uint64_t);
+    m_heads.reserve(count);
     for (size_t i = 0; i < count; ++i) {
-        const char* rest = KeyAt(i) + m_prefixLength;
-        m_heads[i] = rest <= wordsEnd ? HeadOfWord(rest) : Head(rest);
-    }
-    size_t kept = 1;
-    for (size_t i = 1; i < count; ++i) {
-        int order = Compare(kept - 1, m_heads[i], KeyAt(i) + m_prefixLength);
-        if (order > 0) {
-            std::copy(m_heads.begin() + i, m_heads.end(), m_heads.begin() + kept);
-            std::copy(m_entries.begin() + i, m_entries.end(), m_entries.begin() + kept);
-            m_heads.resize(kept + count - i);
-            m_entries.resize(kept + count - i);
-            return false;
-        }
+        uint64_t head = HeadAt(i);
+        size_t kept = m_heads.size();
+        int order = kept == 0 ? -1 : Compare(kept - 1, head, KeyAt(i) + m_prefixLength);
+        if (order > 0) return i;
         if (order == 0) {
             m_entries[kept - 1].value = m_entries[i].value;
         } else {
-            m_heads[kept] = m_heads[i];
-            m_entries[kept++] = m_entries[i];
+            m_entries[kept] = m_entries[i];
+            m_heads.push_back(head);
         }
     }
-    m_heads.resize(kept);
-    m_entries.resize(kept);
-    return true;
+    m_entries.resize(m_heads.size());
+    return count;
 }
 
 // A stable sort keeps equal keys in file order, so the last of each run is the record that wins.
-void Index::Sort()
+void Index::Sort(size_t outOfOrder)
 {
     m_neededSort = true;
-    std::vector<Item> items(m_entries.size());
-    for (size_t i = 0; i < items.size(); ++i) items[i] = {m_heads[i], m_entries[i]};
+    size_t kept = m_heads.size();
+    std::vector<Item> items(kept + m_entries.size() - outOfOrder);
+    for (size_t i = 0; i < kept; ++i) {
+        items[i].head = m_heads[i];
+        items[i].entry = m_entries[i];
+    }
+    for (size_t i = outOfOrder, j = kept; i < m_entries.size(); ++i, ++j) {
+        items[j].head = HeadAt(i);
+        items[j].entry = m_entries[i];
+    }
     SortByHead(items);
     const char* base = m_bytes.data();
     size_t tail = m_prefixLength + kHeadSize;
     auto byTail = [base, tail](const Item& a, const Item& b) {
         return CompareText(base + a.entry.key + tail, base + b.entry.key + tail) < 0;
     };
-    size_t kept = 0;
+    kept = 0;
     for (size_t begin = 0, end; begin < items.size(); begin = end) {
         for (end = begin + 1; end < items.size() && items[end].head == items[begin].head;) ++end;
         // Keys longer than their head that share it are ordered by the rest.

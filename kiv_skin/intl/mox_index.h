@@ -38,12 +38,19 @@ private:
     };
 
     const char* KeyAt(size_t i) const { return m_bytes.data() + m_entries[i].key; }
+    // The 8 bytes of entry i's key after the common prefix, as a big-endian integer.
+    uint64_t HeadAt(size_t i) const;
     // Orders entry i against a key given by its head and its text after the common prefix.
     int Compare(size_t i, uint64_t head, const char* rest) const;
-    // Keeps the file's order when it is ascending, the later of two equal neighbours giving the
-    // translation; false (with the entries still in file order) at the first key out of order.
-    bool IndexInFileOrder();
-    void Sort();
+    // Terminates the keys and translations in place and lists the records whose key is not
+    // empty, in file order, with the prefix their keys share.
+    WalkResult CollectRecords();
+    // Keeps the file's order while it is ascending, the later of two equal neighbours giving the
+    // translation. Answers the position of the first entry whose key is out of order (the
+    // entries before it then kept, in order, as the first Size() entries), or the count.
+    size_t IndexInFileOrder();
+    // Sorts the kept entries and those from outOfOrder on.
+    void Sort(size_t outOfOrder);
 
     struct Item {
         uint64_t head;
