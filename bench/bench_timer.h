@@ -40,16 +40,16 @@ struct Comparison {
     double ratioLow = 0, ratioHigh = 0;  // their 10th and 90th percentiles
 };
 
-// Runs subject and baseline alternately, callsPerRun calls each per run, in turns.
-template <class Subject, class Baseline>
-Comparison Compare(int runs, int callsPerRun, Subject subject, Baseline baseline)
+// Times subject and baseline once per run each, alternately (each goes first in every other run,
+// so that neither gains from what the other left); they answer microseconds per call.
+template <class TimeSubject, class TimeBaseline>
+Comparison CompareTimes(int runs, TimeSubject timeSubject, TimeBaseline timeBaseline)
 {
     std::vector<double> subjects, baselines, ratios;
     for (int r = 0; r < runs; ++r) {
-        // Each goes first in every other run, so that neither gains from what the other left.
-        if (r % 2 == 0) baselines.push_back(MicrosecondsPerCall(callsPerRun, baseline));
-        subjects.push_back(MicrosecondsPerCall(callsPerRun, subject));
-        if (r % 2 != 0) baselines.push_back(MicrosecondsPerCall(callsPerRun, baseline));
+        if (r % 2 == 0) baselines.push_back(timeBaseline());
+        subjects.push_back(timeSubject());
+        if (r % 2 != 0) baselines.push_back(timeBaseline());
         ratios.push_back(subjects.back() / baselines.back());
     }
     Comparison c;
@@ -59,4 +59,22 @@ Comparison Compare(int runs, int callsPerRun, Subject subject, Baseline baseline
     c.ratioLow = Quantile(ratios, 0.1);
     c.ratioHigh = Quantile(ratios, 0.9);
     return c;
+}
+
+// Runs subject and baseline alternately, callsPerRun calls each per run.
+template <class Subject, class Baseline>
+Comparison Compare(int runs, int callsPerRun, Subject subject, Baseline baseline)
+{
+    return CompareTimes(runs, [&] { return MicrosecondsPerCall(callsPerRun, subject); },
+                        [&] { return MicrosecondsPerCall(callsPerRun, baseline); });
+}
+
+// Runs subject and baseline once each per run, alternately, with reset (untimed) before every
+// call, so that both start each call from the same state: what one side released is not left
+// for the other, and neither finds its own previous blocks still in the heap.
+template <class Subject, class Baseline, class Reset>
+Comparison CompareFromSameState(int runs, Subject subject, Baseline baseline, Reset reset)
+{
+    return CompareTimes(runs, [&] { reset(); return MicrosecondsPerCall(1, subject); },
+                        [&] { reset(); return MicrosecondsPerCall(1, baseline); });
 }
