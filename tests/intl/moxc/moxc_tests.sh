@@ -24,8 +24,10 @@ ok() {
 # error NAME OUTPUT PATTERN ARGS...: moxc fails with a message matching PATTERN and leaves no OUTPUT.
 error() {
   local name=$1 output=$2 pattern=$3; shift 3
-  if "${moxc[@]}" "$@" >"$name.out" 2>"$name.err"; then fail "$name: moxc $* succeeded"; fi
-  grep -qE -- "$pattern" "$name.err" || fail "$name: message '$(cat "$name.err")' does not match '$pattern'"
+  local status=0
+  "${moxc[@]}" "$@" >"$name.out" 2>"$name.err" || status=$?
+  [ "$status" != 0 ] || fail "$name: moxc $* succeeded"
+  grep -qE -- "$pattern" "$name.err" || fail "$name: message '$(cat "$name.err")' (status $status) does not match '$pattern'"
   [ ! -e "$output" ] && [ ! -e "$output.tmp" ] || fail "$name: output $output was left behind"
 }
 
