@@ -32,38 +32,50 @@ std::map<std::string, std::string> ReadMo(const std::string& bytes)
     return messages;
 }
 
-std::string ToCodePage(const std::string& utf8, UINT codePage)
+// Text in code page 936 as moxc writes it: each character that code page holds as it holds it,
+// and the substitutes moxc documents for the two characters of the system catalogues it lacks.
+std::string In936(const std::string& utf8)
 {
     int n = MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, utf8.data(), int(utf8.size()), nullptr, 0);
+    EXPECT_TRUE(utf8.empty() || n > 0) << "not UTF-8: " << utf8;
     std::wstring wide(size_t(n), L'\0');
     MultiByteToWideChar(CP_UTF8, 0, utf8.data(), int(utf8.size()), &wide[0], n);
-    int m = WideCharToMultiByte(codePage, 0, wide.data(), n, nullptr, 0, nullptr, nullptr);
-    std::string out(size_t(m), '\0');
-    WideCharToMultiByte(codePage, 0, wide.data(), n, &out[0], m, nullptr, nullptr);
+    std::string out;
+    for (wchar_t c : wide) {
+        char bytes[4];
+        BOOL lacking = FALSE;
+        int m = WideCharToMultiByte(936, WC_NO_BEST_FIT_CHARS, &c, 1, bytes, sizeof bytes, nullptr, &lacking);
+        if (!lacking && m > 0) out.append(bytes, size_t(m));
+        else if (c == 0xA9) out += "(C)";
+        else if (c == 0xE7) out += "c";
+        else ADD_FAILURE() << "U+" << std::hex << unsigned(c) << " in " << utf8 << " has no substitute here";
+    }
     return out;
 }
 
-// Compares every key of the .mo with GetText on the package; answers how many keys it compared.
+// Compares every key of the .mo with GetText on the package; answers how many keys it compared
+// and, in entries, how many the .mo holds besides its header.
 // A plural entry is looked up by its singular with its first form; an entry with a context is
 // not in the catalogue, so its key must come back unchanged unless it also has a plain entry.
-size_t ExpectAgreement(const std::string& mo, const std::string& package)
+size_t ExpectAgreement(const std::string& mo, const std::string& package, size_t* entries = nullptr)
 {
     std::map<std::string, std::string> messages = ReadMo(ReadFileBytes(ExeDir() + "locale\\zh_CN\\LC_MESSAGES\\" + mo));
+    if (entries != nullptr) *entries = messages.size() - messages.count("");
     KivIntl::Instance().PreparePackage(KivIntl::LANGUAGE_ZH_CN, package.c_str());
     std::set<std::string> plain;
     size_t compared = 0;
     for (const auto& m : messages) {
         if (m.first.empty() || m.first.find('\x04') != std::string::npos) continue;
         std::string key = m.first.substr(0, m.first.find('\0'));
-        std::string expected = ToCodePage(m.second.substr(0, m.second.find('\0')), 936);
-        EXPECT_EQ(expected, KivIntl::Instance().GetText(ToCodePage(key, 936).c_str())) << package << ": " << key;
+        std::string expected = In936(m.second.substr(0, m.second.find('\0')));
+        EXPECT_EQ(expected, KivIntl::Instance().GetText(In936(key).c_str())) << package << ": " << key;
         plain.insert(key);
         ++compared;
     }
     for (const auto& m : messages) {
         size_t context = m.first.find('\x04');
         if (context == std::string::npos || plain.count(m.first.substr(context + 1))) continue;
-        std::string key = ToCodePage(m.first.substr(context + 1), 936);
+        std::string key = In936(m.first.substr(context + 1));
         EXPECT_EQ(key, KivIntl::Instance().GetText(key.c_str())) << package << ": context entry " << m.first;
         ++compared;
     }
@@ -90,4 +102,17 @@ TEST(GettextAgreement, ContextsAndPluralsMatchMsgfmt)
         EXPECT_STREQ("\xB4\xF2\xBF\xAA", KivIntl::Instance().GetText("Open"));  // 打开, not the menu's
         EXPECT_STREQ("Close", KivIntl::Instance().GetText("Close"));
     }
+}
+
+// Catalogues translators made: gettext's own and coreutils' (whose copyright line holds "©",
+// compiled with --substitute), from the system's locale folder.
+TEST(GettextAgreement, SystemCataloguesFindEveryMessage)
+{
+    for (const char* mo : {"gettext-tools", "gettext-runtime", "coreutils"})
+        for (const char* build : {"native", "windows"}) {
+            std::string name = std::string("system_") + mo, package = name + "_" + build;
+            size_t entries = 0, compared = ExpectAgreement(name + ".mo", package, &entries);
+            EXPECT_GT(compared, 40u) << mo;
+            EXPECT_EQ(entries, compared) << mo << " (" << build << ")";
+        }
 }

@@ -6,6 +6,7 @@
 #include "mo_reader.h"
 #include "po_reader.h"
 #include "po_writer.h"
+#include "substitute.h"
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -20,15 +21,19 @@ namespace moxc {
 namespace {
 
 const char kUsage[] =
-    "usage: moxc compile INPUT.po|INPUT.mo -o OUTPUT.mox [--lang en|zh_CN|zh_TW] [--code-page CP]\n"
+    "usage: moxc compile INPUT.po|INPUT.mo -o OUTPUT.mox [--lang en|zh_CN|zh_TW] [--code-page CP] [--substitute]\n"
     "       moxc dump INPUT.mox -o OUTPUT.po [--lang en|zh_CN|zh_TW] [--code-page CP]\n"
     "       moxc check INPUT.mox\n"
     "The catalogue's code page is CP (a number or a name such as GB2312, BIG5, CP1252), else the\n"
     "language's (en 1252, zh_CN 936, zh_TW 950); the language is --lang, else the .po header's\n"
-    "\"Language\", else a directory named en, zh_CN or zh_TW in the catalogue's path.\n";
+    "\"Language\", else a directory named en, zh_CN or zh_TW in the output's path, else in the input's.\n"
+    "A character the code page cannot hold is an error; with --substitute it is written as a\n"
+    "transliteration (\"(C)\" for the copyright sign, \"c\" for c cedilla) or \"?\", with a warning per\n"
+    "message.\n";
 
 struct Options {
     std::string command, input, output, lang, codePage;
+    bool substitute = false;
 };
 
 class UsageError : public std::runtime_error {
@@ -42,7 +47,9 @@ Options ParseArguments(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         std::string arg = argv[i];
         std::string* value = arg == "-o" ? &o.output : arg == "--lang" ? &o.lang : arg == "--code-page" ? &o.codePage : nullptr;
-        if (value != nullptr) {
+        if (arg == "--substitute") {
+            o.substitute = true;
+        } else if (value != nullptr) {
             if (++i == argc) throw UsageError(arg + " needs a value");
             *value = argv[i];
         } else if (o.command.empty()) {
@@ -54,6 +61,7 @@ Options ParseArguments(int argc, char** argv)
         }
     }
     if (o.input.empty()) throw UsageError("no input file named");
+    if (o.substitute && o.command != "compile") throw UsageError("--substitute is an option of compile");
     if (o.command != "check" && o.output.empty()) throw UsageError("no output file named (-o)");
     if (!o.lang.empty() && languages::FromDirName(o.lang.c_str()) == languages::kAuto)
         throw UsageError("unknown language " + o.lang + " (en, zh_CN or zh_TW)");
@@ -98,7 +106,8 @@ std::string LanguageInPath(const std::string& path)
 unsigned TargetCodePage(const Options& o, const std::string& headerLanguage, std::string& language)
 {
     language = !o.lang.empty() ? o.lang : headerLanguage;
-    if (languages::FromDirName(language.c_str()) == languages::kAuto) language = LanguageInPath(o.output.empty() ? o.input : o.output);
+    if (languages::FromDirName(language.c_str()) == languages::kAuto) language = LanguageInPath(o.output);
+    if (language.empty()) language = LanguageInPath(o.input);
     if (!o.codePage.empty()) {
         unsigned codePage = CodePageOf(o.codePage);
         if (codePage == 0) throw UsageError("unknown code page " + o.codePage);
@@ -113,15 +122,46 @@ bool EndsWith(const std::string& text, const std::string& end)
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
-// text in the catalogue's code page; on failure, says whether the input or the target is at fault.
-std::string Encode(const std::string& text, unsigned source, unsigned target, const std::string& where,
-                   const std::string& charset)
-{
-    std::string out;
-    if (Convert(text, source, target, out)) return out;
-    if (!Convert(text, source, kUtf8, out)) throw InputError(where, "\"" + text + "\" is not valid " + charset);
-    throw InputError(where, "\"" + text + "\" cannot be represented in code page " + CodePageName(target));
-}
+// A message's key and translation in the catalogue's code page. A character the code page cannot
+// hold is an error, or with substitutes allowed is replaced, and the message gets one warning.
+class Encoder {
+public:
+    Encoder(unsigned source, unsigned target, const std::string& charset, bool substitute)
+        : m_source(source), m_target(target), m_charset(charset), m_substitute(substitute) {}
+
+    Message operator()(const Message& m)
+    {
+        std::string notes;
+        Message out{Encode(m.key, m.where, "key", notes), Encode(m.value, m.where, "translation", notes), m.where};
+        if (!notes.empty()) {
+            Warn(m.where, "code page " + CodePageName(m_target) + " cannot hold " + notes);
+            ++m_substituted;
+        }
+        return out;
+    }
+
+    size_t Substituted() const { return m_substituted; }
+
+private:
+    std::string Encode(const std::string& text, const std::string& where, const char* part, std::string& notes) const
+    {
+        std::string out, utf8;
+        if (Convert(text, m_source, m_target, out)) return out;
+        if (!Convert(text, m_source, kUtf8, utf8)) throw InputError(where, "\"" + text + "\" is not valid " + m_charset);
+        if (!m_substitute)
+            throw InputError(where, "\"" + text + "\" cannot be represented in code page " + CodePageName(m_target) +
+                                        " (--substitute writes substitutes for what it cannot hold)");
+        std::vector<Replacement> replaced;
+        out = EncodeWithSubstitutes(utf8, m_target, replaced);
+        for (const Replacement& r : replaced) notes += (notes.empty() ? "" : ", ") + std::string(part) + " " + Describe(r);
+        return out;
+    }
+
+    unsigned m_source, m_target;
+    std::string m_charset;
+    bool m_substitute;
+    size_t m_substituted = 0;
+};
 
 // The messages in ascending byte order of their keys as the library reads them (up to a first
 // zero byte), the last of equal keys kept: a catalogue in this order loads in one linear pass.
@@ -147,15 +187,16 @@ int Compile(const Options& o)
     if (!declared) Warn(o.input, "no charset in the header: reading it as UTF-8");
     unsigned source = declared ? CodePageOf(set.charset) : kUtf8;
     if (source == 0) throw InputError(o.input, "unknown charset " + set.charset);
+    Encoder encode(source, target, set.charset, o.substitute);
     std::vector<Message> encoded;
-    for (const Message& m : set.messages)
-        encoded.push_back({Encode(m.key, source, target, m.where, set.charset),
-                           Encode(m.value, source, target, m.where, set.charset), m.where});
+    for (const Message& m : set.messages) encoded.push_back(encode(m));
     std::string file = mox::kMagic;
     for (const Message& m : InKeyOrder(encoded))
         if (!mox::AppendRecord(file, m.key, m.value)) throw InputError(m.where, "message too long for a catalogue");
     WriteAll(o.output, file);
-    std::fprintf(stderr, "%s: %zu messages in code page %s\n", o.output.c_str(), set.messages.size(), CodePageName(target).c_str());
+    std::fprintf(stderr, "%s: %zu messages in code page %s", o.output.c_str(), set.messages.size(), CodePageName(target).c_str());
+    if (encode.Substituted() > 0) std::fprintf(stderr, ", %zu of them with substitutes", encode.Substituted());
+    std::fprintf(stderr, "\n");
     return 0;
 }
 

@@ -85,6 +85,27 @@ check ok compile_path compile nolang.po -o locale/zh_TW/LC_MESSAGES/x.mox
 check contains locale/zh_TW/LC_MESSAGES/x.mox '\xc0\xc9\xae\xd7'
 check error no_language nolang.mox "--lang|--code-page" compile nolang.po -o nolang.mox
 
+# The language from a directory in the input's path when neither header nor output name one.
+mkdir -p in/zh_TW/LC_MESSAGES && cp nolang.po in/zh_TW/LC_MESSAGES/
+check ok compile_input_path compile in/zh_TW/LC_MESSAGES/nolang.po -o from_input.mox
+check contains from_input.mox '\xc0\xc9\xae\xd7'
+
+# --substitute: what the code page cannot hold becomes a transliteration ("(C)", "c", "i", "*";
+# a combining mark is dropped) or "?", the same bytes from every build, and each message so
+# written gets one warning naming its characters.
+check ok substitutes compile substitutes.po -o substitutes.mox --substitute
+check contains substitutes.mox '\xb0\xe6\xc8\xa8\xcb\xf9\xd3\xd0 (C) %%s'
+check contains substitutes.mox 'Curacao * Sanliurfa s ?'
+check contains substitutes.mox '\xce\xa2\xd0\xa6'
+check grep -qE 'substitutes.po:6: warning: .*U\+00A9 "©" \(character 6\) as "\(C\)"' substitutes.err ||
+  fail "no warning for the copyright sign: $(cat substitutes.err)"
+check grep -qE 'substitutes.po:9: warning: .*U\+00E7 .*U\+2022 .*U\+0131 .*U\+0327 .*left out.*U\+0259 .*as "\?"' substitutes.err ||
+  fail "no warning naming every character of line 9: $(cat substitutes.err)"
+[ "$(grep -c 'warning: code page' substitutes.err)" = 2 ] || fail "not one warning per substituted message: $(cat substitutes.err)"
+check grep -q '2 of them with substitutes' substitutes.err || fail "no count of substituted messages: $(cat substitutes.err)"
+check ok unrepresentable_substituted compile unrepresentable.po -o u_sub.mox --substitute
+check contains u_sub.mox '\xce\xa2\xd0\xa6 ?'
+
 # Contexts and plural forms: warnings that name the line.
 check ok features compile features.po -o features.mox
 check grep -qE "features.po:12: warning: .*context \"menu\"" features.err || fail "no context warning: $(cat features.err)"
@@ -92,6 +113,9 @@ check grep -qE "features.po:19: warning: plural message \"%d day\"" features.err
 
 # Bad input.
 check error unrepresentable u.mox 'unrepresentable.po:6: .*cannot be represented in code page 936' compile unrepresentable.po -o u.mox
+check grep -q -- '--substitute' unrepresentable.err || fail "the error does not name --substitute"
+check error substitutes_refused s.mox 'substitutes.po:6: .*code page 936.*--substitute' compile substitutes.po -o s.mox
+check error substitute_dump out.po '--substitute is an option of compile' dump real_zh_CN.mox -o out.po --substitute
 check error not_latin en_bad.mox 'en_bad.po:3: .*cannot be represented' compile en_bad.po -o en_bad.mox --lang en
 # bad_po NAME CONTENT PATTERN: a .po with CONTENT fails to compile with a message matching PATTERN.
 bad_po() { printf "$2" > "$1.po"; error "$1" out.mox "$3" compile "$1.po" -o out.mox --lang en; }
