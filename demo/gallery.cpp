@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 using kiv_skin::KivStyleMgr;
@@ -29,7 +30,7 @@ bool Save(const Picture& picture, const std::string& folder, const CString& sche
     return true;
 }
 
-bool RenderPanel(const CString& scheme, const std::string& folder)
+bool RenderPanel(const CString& scheme, const std::string& folder, const char* kind = "panel")
 {
     CSize size;
     {
@@ -38,7 +39,7 @@ bool RenderPanel(const CString& scheme, const std::string& folder)
     }
     Picture panel(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
     DrawQuotePanel(panel.dc());
-    return Save(panel, folder, scheme, "panel");
+    return Save(panel, folder, scheme, kind);
 }
 
 // "<subject> in <scheme> (<its description>)", in UTF-8.
@@ -90,12 +91,12 @@ bool RenderMarkupSheet(const CString& scheme, const std::string& folder)
     return Save(sheet, folder, scheme, "markup") && SaveMarkupLines(sheet, folder, scheme);
 }
 
-bool RenderScrollSheet(const CString& scheme, const std::string& folder)
+bool RenderScrollSheet(const CString& scheme, const std::string& folder, const char* kind = "scroll")
 {
     CSize size = ScrollSheetSize();
     Picture sheet(size.cx, size.cy, KivStyleMgr::GetInstance()->GetColor("BACKGROUND"));
     DrawScrollSheet(sheet.dc(), SheetTitle("The scroll bar", scheme).c_str());
-    return Save(sheet, folder, scheme, "scroll");
+    return Save(sheet, folder, scheme, kind);
 }
 
 }  // namespace
@@ -112,6 +113,21 @@ bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
     bool sheetSaved = RenderSheet(scheme, folder);
     bool scrollSaved = RenderScrollSheet(scheme, folder);
     return RenderMarkupSheet(scheme, folder) && sheetSaved && panelSaved && scrollSaved;
+}
+
+bool RenderDpiGallery(const std::string& folder)
+{
+    int dpi = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY);
+    PrintHeading(("Gallery at " + std::to_string(dpi) + " DPI").c_str());
+    const std::string panel = "panel_" + std::to_string(dpi) + "dpi", scroll = "scroll_" + std::to_string(dpi) + "dpi";
+    if (!KivStyleMgr::GetInstance()->InitStyleMgr()) return false;
+    bool allSaved = true;
+    for (const kiv_skin::StyleEntry& entry : kiv_skin::StyleCatalogue::Instance()->m_entries) {
+        if (!KivStyleMgr::GetInstance()->LoadStyle(entry.name)) return false;
+        allSaved = RenderPanel(entry.name, folder, panel.c_str()) && allSaved;
+        allSaved = RenderScrollSheet(entry.name, folder, scroll.c_str()) && allSaved;
+    }
+    return allSaved;
 }
 
 bool RenderGallery(const std::string& folder)

@@ -11,3 +11,7 @@
 bool RenderSchemeGallery(const CString& scheme, const std::string& folder);
 // The same for every scheme of the catalogue, in its order; false if any of them fails.
 bool RenderGallery(const std::string& folder);
+// The panel and the scroll sheet of every scheme at the screen's DPI, <scheme>_panel_<dpi>dpi.png
+// and <scheme>_scroll_<dpi>dpi.png, their layouts converted through DPIScale. Initialises the
+// style manager; false if a scheme does not load or a file cannot be written.
+bool RenderDpiGallery(const std::string& folder);

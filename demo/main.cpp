@@ -3,6 +3,7 @@
 // demo's message catalogue (locale\zh_CN\LC_MESSAGES\kiv_demo.mox), then paints its gallery.
 //
 //     kiv_demo [--gallery FOLDER]     the gallery's PNG files go to FOLDER (default "gallery")
+//     kiv_demo --dpi-gallery FOLDER   only the panels and scroll sheets, at the screen's DPI
 //     kiv_demo --window [--close-after MS]
 //                                     the live window instead, closing itself after MS if given
 #include "demo/dialog_shots.h"
@@ -18,21 +19,23 @@
 int main(int argc, char** argv)
 {
     std::string folder = "gallery";
-    bool window = false;
+    bool window = false, dpiOnly = false;
     UINT closeAfter = 0;
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--gallery") == 0 && i + 1 < argc) {
+        if ((std::strcmp(argv[i], "--gallery") == 0 || std::strcmp(argv[i], "--dpi-gallery") == 0) && i + 1 < argc) {
+            dpiOnly = argv[i][2] == 'd';
             folder = argv[++i];
         } else if (std::strcmp(argv[i], "--window") == 0) {
             window = true;
         } else if (std::strcmp(argv[i], "--close-after") == 0 && i + 1 < argc) {
             closeAfter = static_cast<UINT>(std::strtoul(argv[++i], nullptr, 10));
         } else {
-            std::printf("usage: kiv_demo [--gallery FOLDER] | --window [--close-after MS]\n");
+            std::printf("usage: kiv_demo [--gallery FOLDER] | --dpi-gallery FOLDER | --window [--close-after MS]\n");
             return 2;
         }
     }
     if (window) return RunLiveWindow(closeAfter);
+    if (dpiOnly) return RenderDpiGallery(folder) ? 0 : 1;
     ReportDpiSettings();
     bool schemesLoaded = ReportSchemes();
     ReportTranslations();

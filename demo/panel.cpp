@@ -1,4 +1,5 @@
 #include "demo/panel.h"
+#include "demo/logical_units.h"
 #include "demo/panel_cells.h"
 #include "demo/panel_data.h"
 #include "demo/panel_market.h"
@@ -45,7 +46,8 @@ const ToolButton kWindowButtons[] = {{kMinimise, KivDraw::BUTTON_NORMAL}, {kMaxi
 void DrawButtonRow(Painter& p, const ToolButton* buttons, int count, int left, int top)
 {
     for (int i = 0; i < count; ++i) {
-        CRect rect(left + i * (kButton + 1), top, left + i * (kButton + 1) + kButton, top + kButton);
+        int x = left + i * DpX(kButton + 1);
+        CRect rect(x, top, x + DpX(kButton), top + DpY(kButton));
         bool framed = buttons[i].state != KivDraw::BUTTON_NORMAL;
         p.kit.DrawButton(p.dc, &rect, buttons[i].state, buttons[i].icon, 0, framed);
     }
@@ -53,12 +55,12 @@ void DrawButtonRow(Painter& p, const ToolButton* buttons, int count, int left, i
 
 void DrawToolbar(Painter& p, const CRect& band)
 {
-    CRect bar(band.left, band.top, band.right, band.bottom - 3);
+    CRect bar(band.left, band.top, band.right, band.bottom - DpY(3));
     KivDraw::FillRect(p.dc, &bar, SchemeColor("PLUG_BTN_BGCOLOR"));
-    int top = bar.top + (bar.Height() - kButton) / 2;
-    DrawButtonRow(p, kTools, static_cast<int>(std::size(kTools)), bar.left + 2, top);
+    int top = bar.top + (bar.Height() - DpY(kButton)) / 2;
+    DrawButtonRow(p, kTools, static_cast<int>(std::size(kTools)), bar.left + DpX(2), top);
     int windowCount = static_cast<int>(std::size(kWindowButtons));
-    DrawButtonRow(p, kWindowButtons, windowCount, bar.right - 2 - windowCount * (kButton + 1) + 1, top);
+    DrawButtonRow(p, kWindowButtons, windowCount, bar.right - DpX(2 + windowCount * (kButton + 1) - 1), top);
 }
 
 // --- Quote table -----------------------------------------------------------------------------
@@ -82,13 +84,13 @@ void DrawQuoteRow(Painter& p, const Quote& quote, const CRect& row)
 
 void DrawQuoteTable(Painter& p, const CRect& band)
 {
-    CRect row(band.left, band.top, band.right, band.top + kRow);
+    CRect row(band.left, band.top, band.right, band.top + DpY(kRow));
     std::vector<CRect> cells = Cells(row, kQuoteColumns, kQuoteColumnCount);
     for (int i = 0; i < kQuoteColumnCount; ++i)
         WriteCell(p.dc, kQuoteHeadings[i], cells[i], kQuoteColumns[i].align, HeadingColor(p.dc));
     p.kit.HoriFrameLine(p.dc, row.left, row.right, row.bottom - 1);
     for (int i = 0; i < static_cast<int>(std::size(kQuotes)); ++i) {
-        row.OffsetRect(0, kRow);
+        row.OffsetRect(0, DpY(kRow));
         // Dotted lines part the rows; the selection's frame stands in for its own and the one above.
         if (i == kSelectedQuote) MarkSelectedRow(p.dc, row);
         else if (i + 1 != kSelectedQuote) p.kit.HoriDotLine(p.dc, row.left, row.right, row.bottom - 1);
@@ -101,11 +103,12 @@ void DrawQuoteTable(Painter& p, const CRect& band)
 // A grooved heading over a section, in the title font.
 void DrawHeading(Painter& p, const CRect& band, const char* title)
 {
-    CRect text(band.left + kCellInset, band.top, band.right, band.bottom);
+    CRect text(band.left + DpX(kCellInset), band.top, band.right, band.bottom);
     const char* font = "PLUG_TITLE";
     WriteText(p.dc, title, text, font, SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kCellLine);
     int middle = band.top + band.Height() / 2;
-    CRect groove(text.left + TextWidth(p.dc, title, font) + 8, middle - 3, band.right - kCellInset, middle + 3);
+    CRect groove(text.left + TextWidth(p.dc, title, font) + DpX(8), middle - DpY(3), band.right - DpX(kCellInset),
+                 middle + DpY(3));
     KivDraw::DrawTitleLine(p.dc, &groove, SchemeColor("PLUG_FRAME"));
 }
 
@@ -121,14 +124,14 @@ const int kSectorColumnCount = static_cast<int>(std::size(kSectorColumns));
 
 void DrawSectorTable(Painter& p, const CRect& band)
 {
-    CRect row(band.left, band.top, band.right, band.top + kRow);
+    CRect row(band.left, band.top, band.right, band.top + DpY(kRow));
     for (const Sector& sector : kSectors) {
         std::vector<CRect> cells = Cells(row, kSectorColumns, kSectorColumnCount);
         WriteCell(p.dc, sector.name, cells[0], DT_LEFT, SchemeColor("EQUTEXT"));
         WriteCell(p.dc, sector.percent, cells[1], DT_RIGHT, TrendColor(sector.trend));
         WriteCell(p.dc, sector.leader, cells[3], DT_LEFT, SchemeColor("EQUTEXT"));
         if (row.bottom < band.bottom) p.kit.HoriDotLine(p.dc, row.left, row.right, row.bottom - 1);
-        row.OffsetRect(0, kRow);
+        row.OffsetRect(0, DpY(kRow));
     }
 }
 
@@ -137,9 +140,9 @@ void DrawSectorTable(Painter& p, const CRect& band)
 void DrawStatusLine(Painter& p, const CRect& band)
 {
     p.kit.HoriFrameLine(p.dc, band.left, band.right, band.top);
-    CRect clock(band.left, band.top + 1, band.left + 64, band.bottom);
+    CRect clock(band.left, band.top + 1, band.left + DpX(64), band.bottom);
     WriteText(p.dc, kClock, clock, "SMALL", SchemeColor("PLUG_TIME_COLOR1"), DT_CENTER | kCellLine);
-    p.kit.VertFrameLine(p.dc, clock.right, clock.top + 3, clock.bottom - 3);
+    p.kit.VertFrameLine(p.dc, clock.right, clock.top + DpY(3), clock.bottom - DpY(3));
     CRect news(clock.right + 1, clock.top, band.right, band.bottom);
     WriteCutCell(p.dc, kNews, news, SchemeColor("EQUTEXT"));
 }
@@ -152,7 +155,8 @@ void DrawRatio(Painter& p, const CRect& band) { DrawVolumeRatio(p.dc, p.kit, ban
 
 // --- Layout ----------------------------------------------------------------------------------
 
-// A band of the panel: its height and what paints it. The panel stacks them under its title.
+// A band of the panel: its height in logical units and what paints it. The panel stacks them
+// under its title.
 struct Section {
     int height;
     void (*draw)(Painter&, const CRect& band);
@@ -180,9 +184,9 @@ int TitleHeight(CDC* dc)
 
 CSize QuotePanelSize(CDC* dc)
 {
-    int height = 1 + TitleHeight(dc) + 2 * kPanelPadding + 1;
-    for (const Section& section : kSections) height += section.height;
-    return CSize(kWidth, height);
+    int height = 1 + TitleHeight(dc) + 2 * DpY(kPanelPadding) + 1;
+    for (const Section& section : kSections) height += DpY(section.height);
+    return CSize(DpX(kWidth), height);
 }
 
 void DrawQuotePanel(CDC* dc)
@@ -192,9 +196,10 @@ void DrawQuotePanel(CDC* dc)
     KivDraw::DrawPluginFrame(dc, &panel);
     PluginTitle(kPanelTitle).Draw(dc, CRect(1, 1, size.cx - 1, size.cy - 1));
     Painter painter{dc, {}};
-    CRect band(1 + kPanelPadding, 1 + TitleHeight(dc) + kPanelPadding, size.cx - 1 - kPanelPadding, 0);
+    int padding = DpX(kPanelPadding);
+    CRect band(1 + padding, 1 + TitleHeight(dc) + DpY(kPanelPadding), size.cx - 1 - padding, 0);
     for (const Section& section : kSections) {
-        band.bottom = band.top + section.height;
+        band.bottom = band.top + DpY(section.height);
         section.draw(painter, band);
         band.top = band.bottom;
     }

@@ -1,4 +1,5 @@
 #include "demo/panel_cells.h"
+#include "demo/logical_units.h"
 #include "demo/scheme_text.h"
 #include "kiv_base/text.h"
 #include "kiv_skin/draw/kiv_draw.h"
@@ -10,7 +11,7 @@ std::vector<CRect> Cells(const CRect& row, const Column* columns, int count)
     std::vector<CRect> cells;
     int x = row.left;
     for (int i = 0; i < count; ++i) {
-        int right = columns[i].width ? x + columns[i].width : row.right;
+        int right = columns[i].width ? x + DpX(columns[i].width) : row.right;
         cells.emplace_back(x, row.top, right, row.bottom);
         x = right;
     }
@@ -33,7 +34,7 @@ COLORREF HeadingColor(CDC* dc)
 
 void WriteCell(CDC* dc, const char* text, CRect cell, UINT align, COLORREF color)
 {
-    cell.DeflateRect(kCellInset, 0);
+    cell.DeflateRect(DpX(kCellInset), 0);
     WriteText(dc, text, cell, kRowFont, color, align | kCellLine);
 }
 
@@ -43,7 +44,7 @@ void WriteCutCell(CDC* dc, const char* text, const CRect& cell, COLORREF color)
     SchemeTextStyle style(dc, kRowFont, color);
     int count = 0;
     KivDraw::TextOutLimitWidth(dc, &cell, kiv_base::text::Utf8toUtf16(text), count,
-                               CRect(kCellInset, top, kCellInset, 0), 0);
+                               CRect(DpX(kCellInset), top, DpX(kCellInset), 0), 0);
 }
 
 void MarkSelectedRow(CDC* dc, const CRect& row)

@@ -4,7 +4,7 @@
 #include <afxwin.h>
 #include <vector>
 
-const int kCellInset = 3;
+const int kCellInset = 3;  // logical units, as column widths are
 const char kRowFont[] = "PLUG_STDFONT";
 const UINT kCellLine = DT_SINGLELINE | DT_VCENTER;
 

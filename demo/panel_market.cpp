@@ -1,4 +1,5 @@
 #include "demo/panel_market.h"
+#include "demo/logical_units.h"
 #include "demo/panel_cells.h"
 #include "demo/scheme_text.h"
 #include <cmath>
@@ -42,7 +43,7 @@ const char* TrendImage(Trend trend)
 // Rich text in a cell, aligned exactly left or right.
 void MarkupCell(CDC* dc, const std::string& markup, CRect cell, UINT align)
 {
-    cell.DeflateRect(kCellInset, 0);
+    cell.DeflateRect(DpX(kCellInset), 0);
     UINT previous = dc->SetTextAlign(align);
     WriteRichText(dc, markup.c_str(), cell, kRowFont, SchemeColor("EQUTEXT"));
     dc->SetTextAlign(previous);
@@ -64,7 +65,7 @@ void DrawMover(CDC* dc, KivDraw& kit, const Mover& mover, const CRect& row)
         SchemeTextStyle style(dc, kRowFont, SchemeColor(TrendKey(mover.trend)));
         UINT previous = dc->SetTextAlign(TA_RIGHT | TA_TOP);
         int top = cells[2].top + (cells[2].Height() - LineHeight(dc, kRowFont)) / 2;
-        kit.DrawUL(dc, cells[2].right - kCellInset, top, mover.change, 1);
+        kit.DrawUL(dc, cells[2].right - DpX(kCellInset), top, mover.change, 1);
         dc->SetTextAlign(previous);
     }
     MarkupCell(dc, trend + mover.percent, cells[3], TA_RIGHT);
@@ -81,11 +82,11 @@ float PriceAt(int minute)
 
 void DrawMoverList(CDC* dc, KivDraw& kit, const CRect& band)
 {
-    CRect row(band.left, band.top, band.right, band.top + kRow);
+    CRect row(band.left, band.top, band.right, band.top + DpY(kRow));
     for (int i = 0; i < kMoverRows; ++i) {
         DrawMover(dc, kit, kMovers[i], row);
         if (i + 1 < kMoverRows) kit.HoriDotLine(dc, row.left, row.right, row.bottom - 1);
-        row.OffsetRect(0, kRow);
+        row.OffsetRect(0, DpY(kRow));
     }
 }
 
@@ -94,10 +95,11 @@ void DrawIntradayChart(CDC* dc, KivDraw& kit, const CRect& band)
 {
     const float low = 1668, high = 1692, close = 1675.5f;
     const int minutes = 240;
-    CPoint origin(band.left + 52, band.bottom - 18), top(origin.x, band.top + 6), right(band.right - 6, origin.y);
-    int plotWidth = right.x - 12 - origin.x;
-    auto y = [&](float price) { return origin.y - static_cast<int>((price - low) * (origin.y - top.y - 8) / (high - low)); };
-    kit.HoriDotLine(dc, origin.x + 1, right.x - 12, y(close));
+    CPoint origin(band.left + DpX(52), band.bottom - DpY(18));
+    CPoint top(origin.x, band.top + DpY(6)), right(band.right - DpX(6), origin.y);
+    int plotWidth = right.x - DpX(12) - origin.x;
+    auto y = [&](float price) { return origin.y - static_cast<int>((price - low) * (origin.y - top.y - DpY(8)) / (high - low)); };
+    kit.HoriDotLine(dc, origin.x + 1, right.x - DpX(12), y(close));
     CPen pen(PS_SOLID, 1, SchemeColor("EQUTEXT"));
     CPen* previous = dc->SelectObject(&pen);
     CPoint position = dc->MoveTo(origin.x + 1, y(PriceAt(0)));
@@ -112,7 +114,7 @@ void DrawIntradayChart(CDC* dc, KivDraw& kit, const CRect& band)
 CRect VolumeRatioBar(const CRect& band)
 {
     int middle = band.top + band.Height() / 2;
-    return CRect(band.left + 96, middle - 5, band.right - 96, middle + 5);
+    return CRect(band.left + DpX(96), middle - DpY(5), band.right - DpX(96), middle + DpY(5));
 }
 
 int VolumeRatioSplit(const CRect& bar) { return bar.left + bar.Width() * 58 / 100; }
@@ -122,7 +124,7 @@ void DrawVolumeRatio(CDC* dc, KivDraw&, const CRect& band)
 {
     CRect bar = VolumeRatioBar(band);
     KivDraw::Draw3DPercentBar(dc, &bar, VolumeRatioSplit(bar), SchemeColor("UPTEXT"), SchemeColor("DOWNTEXT"), 1);
-    CRect left(band.left, band.top, bar.left - 4, band.bottom), right(bar.right + 4, band.top, band.right, band.bottom);
+    CRect left(band.left, band.top, bar.left - DpX(4), band.bottom), right(bar.right + DpX(4), band.top, band.right, band.bottom);
     MarkupCell(dc, "\xE5\xA4\x96\xE7\x9B\x98 <*sc=UPTEXT*>12.3\xE4\xB8\x87 58%", left, TA_LEFT);
     MarkupCell(dc, "<*sc=DOWNTEXT*>42% 8.9\xE4\xB8\x87<*sc*> \xE5\x86\x85\xE7\x9B\x98", right, TA_RIGHT);
 }

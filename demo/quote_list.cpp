@@ -1,3 +1,4 @@
+#include "demo/logical_units.h"
 #include "demo/quote_list.h"
 #include "demo/panel_cells.h"
 #include "demo/scheme_text.h"
@@ -120,10 +121,10 @@ void DrawQuoteList(CDC* dc, KivDraw& kit, const CRect& band, int firstRow, int f
 {
     int saved = dc->SaveDC();
     dc->IntersectClipRect(band);
-    CRect row(band.left, band.top, band.right, band.top + kListRowHeight);
+    CRect row(band.left, band.top, band.right, band.top + DpY(kListRowHeight));
     DrawHeadings(dc, kit, row, firstColumn);
     for (int i = firstRow; i < kListRowCount && row.bottom < band.bottom; ++i) {
-        row.OffsetRect(0, kListRowHeight);
+        row.OffsetRect(0, DpY(kListRowHeight));
         if (i == selectedRow) MarkSelectedRow(dc, row);
         else if (i + 1 != selectedRow) kit.HoriDotLine(dc, row.left, row.right, row.bottom - 1);
         DrawRow(dc, ListRow(i), row, firstColumn);

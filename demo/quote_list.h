@@ -7,6 +7,7 @@
 #include <string>
 
 const int kListRowCount = 360;
+// Logical units, as the panels' layouts are (demo/logical_units.h).
 const int kListRowHeight = 20;
 // Code and name stay put; the price columns after them scroll sideways.
 const int kFixedColumnsWidth = 56 + 78;

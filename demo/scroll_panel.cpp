@@ -1,4 +1,5 @@
 #include "demo/scroll_panel.h"
+#include "demo/logical_units.h"
 #include "demo/panel_data.h"
 #include "demo/quote_list.h"
 #include "demo/scheme_text.h"
@@ -9,7 +10,9 @@ using kiv_skin::PluginScrollBar;
 
 namespace {
 
-const int kBarRoom = 17;  // a bar's thickness and its overlap
+// A bar's thickness and its overlap, in the screen's pixels: the bars draw the scheme's button
+// strip at its own size, whatever the DPI.
+const int kBarRoom = 17;
 
 std::unique_ptr<PluginScrollBar> NewBar(IKivObject* owner, int vertical)
 {
@@ -46,10 +49,11 @@ void ScrollPanel::Configure()
     inside.DeflateRect(1, 1);
     inside.top += TitleHeight(m_title);
     m_list = CRect(inside.left, inside.top, inside.right - kBarRoom, inside.bottom - kBarRoom);
-    CRect rowsArea(inside.left, inside.top + kListRowHeight + 1, inside.right - 1, inside.bottom - kBarRoom - 1);
-    m_rows->SetScrollInfo(rowsArea, kListRowHeight, kListRowCount, 0);
-    int visibleColumns = std::max((m_list.Width() - kFixedColumnsWidth) / kPriceColumnWidth, 1);
-    CRect columnsArea(inside.left + kFixedColumnsWidth + 1, inside.top, inside.right - kBarRoom - 1, inside.bottom - 1);
+    int rowHeight = DpY(kListRowHeight), fixedWidth = DpX(kFixedColumnsWidth);
+    CRect rowsArea(inside.left, inside.top + rowHeight + 1, inside.right - 1, inside.bottom - kBarRoom - 1);
+    m_rows->SetScrollInfo(rowsArea, rowHeight, kListRowCount, 0);
+    int visibleColumns = std::max((m_list.Width() - fixedWidth) / DpX(kPriceColumnWidth), 1);
+    CRect columnsArea(inside.left + fixedWidth + 1, inside.top, inside.right - kBarRoom - 1, inside.bottom - 1);
     // The bar counts its page in its area's height, whatever its orientation.
     m_columns->SetScrollInfo(columnsArea, std::max(columnsArea.Height() / visibleColumns, 1), kPriceColumnCount, 0);
 }

@@ -1,4 +1,5 @@
 #include "demo/scroll_sheet.h"
+#include "demo/logical_units.h"
 #include "demo/scheme_text.h"
 #include "demo/scroll_panel.h"
 #include "kiv_skin/display/memo_dc.h"
@@ -10,6 +11,8 @@ using kiv_skin::KivDraw;
 
 namespace {
 
+// Logical units (demo/logical_units.h), but for the faces of the button strip: the bitmap twice
+// its own size.
 const int kMargin = 12;
 const int kHeading = 30;
 const int kCaption = 22;
@@ -17,7 +20,6 @@ const int kPanelWidth = 372;
 const int kPanelHeight = 330;
 const int kGap = 12;
 const int kFaceScale = 2;
-const int kFacesHeight = kCaption + 21 * kFaceScale + kCaption;
 const UINT kLine = DT_SINGLELINE | DT_VCENTER;
 
 void Press(ScrollPanel& panel, uint16_t message, const CPoint& pt)
@@ -70,10 +72,10 @@ const int kSceneCount = static_cast<int>(std::size(kScenes));
 
 void DrawScene(CDC* dc, const Scene& scene, int left, int top)
 {
-    CRect caption(left, top, left + kPanelWidth, top + kCaption);
+    CRect caption(left, top, left + DpX(kPanelWidth), top + DpY(kCaption));
     WriteText(dc, scene.caption, caption, "PLUG_STDFONT", SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kLine);
     ScrollPanel panel;
-    panel.Place(CRect(left, caption.bottom, left + kPanelWidth, caption.bottom + kPanelHeight));
+    panel.Place(CRect(left, caption.bottom, caption.right, caption.bottom + DpY(kPanelHeight)));
     scene.prepare(panel);
     panel.Paint(dc);
 }
@@ -84,7 +86,7 @@ const char* const kFaceNames[] = {"hover", "normal", "pressed", "disabled"};
 
 void DrawFaces(CDC* dc, int left, int top)
 {
-    CRect caption(left, top, left + 4 * kPanelWidth, top + kCaption);
+    CRect caption(left, top, left + 4 * DpX(kPanelWidth), top + DpY(kCaption));
     WriteText(dc, "KIV_BTN", caption, "PLUG_STDFONT", SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kLine);
     const CBitmap* strip = kiv_skin::KivStyleMgr::GetInstance()->GetBitmap("KIV_BTN");
     if (strip == nullptr || strip->m_hObject == nullptr) return;
@@ -93,27 +95,31 @@ void DrawFaces(CDC* dc, int left, int top)
     int firstCell = (GetRValue(back) + GetGValue(back) + GetBValue(back)) / 3 < 65 ? 0 : 4;
     int size = 21 * kFaceScale;
     for (int i = 0; i < 4; ++i) {
-        int x = left + i * (size + 70);
+        int x = left + i * (size + DpX(70));
         dc->StretchBlt(x, caption.bottom, size, size, &cells, 21 * (firstCell + i), 0, 21, 21, SRCCOPY);
-        CRect name(x - 20, caption.bottom + size, x + size + 20, caption.bottom + size + kCaption);
+        CRect name(x - DpX(20), caption.bottom + size, x + size + DpX(20), caption.bottom + size + DpY(kCaption));
         WriteText(dc, kFaceNames[i], name, "SMALL", SchemeColor("EQUTEXT"), DT_CENTER | kLine);
     }
 }
+
+int FacesTop() { return DpY(kHeading) + DpY(kCaption) + DpY(kPanelHeight) + DpY(kGap); }
 
 }  // namespace
 
 CSize ScrollSheetSize()
 {
-    return CSize(2 * kMargin + kSceneCount * kPanelWidth + (kSceneCount - 1) * kGap,
-                 kHeading + kCaption + kPanelHeight + kGap + kFacesHeight + kMargin);
+    int facesHeight = 2 * DpY(kCaption) + 21 * kFaceScale;
+    return CSize(2 * DpX(kMargin) + kSceneCount * DpX(kPanelWidth) + (kSceneCount - 1) * DpX(kGap),
+                 FacesTop() + facesHeight + DpY(kMargin));
 }
 
 void DrawScrollSheet(CDC* dc, const char* title)
 {
     CSize size = ScrollSheetSize();
     KivDraw::FillRect(dc, 0, 0, size.cx, size.cy, SchemeColor("BACKGROUND"));
-    CRect heading(kMargin, 0, size.cx - kMargin, kHeading);
+    CRect heading(DpX(kMargin), 0, size.cx - DpX(kMargin), DpY(kHeading));
     WriteText(dc, title, heading, "PLUG_TITLE", SchemeColor("PLUG_TITLE_TEXT"), DT_LEFT | kLine);
-    for (int i = 0; i < kSceneCount; ++i) DrawScene(dc, kScenes[i], kMargin + i * (kPanelWidth + kGap), kHeading);
-    DrawFaces(dc, kMargin, kHeading + kCaption + kPanelHeight + kGap);
+    for (int i = 0; i < kSceneCount; ++i)
+        DrawScene(dc, kScenes[i], DpX(kMargin) + i * (DpX(kPanelWidth) + DpX(kGap)), DpY(kHeading));
+    DrawFaces(dc, DpX(kMargin), FacesTop());
 }
