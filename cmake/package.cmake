@@ -7,19 +7,32 @@
 include(CMakePackageConfigHelpers)
 set(kiv_package_dir lib/cmake/kiv_skin)
 
+# Each architecture (x64, x86) installs into a prefix of its own: the package records the pointer
+# size it was built with and refuses a project that builds for the other one.
 install(TARGETS kiv_skin kiv_base kiv_core EXPORT kiv_skin_targets
   RUNTIME DESTINATION bin ARCHIVE DESTINATION lib FILE_SET HEADERS DESTINATION include)
-if(NOT KIV_USE_MFC)
+# The framework target goes with them in both builds: the compat headers, or with MFC the
+# shared-MFC definition (_AFXDLL) that a plug-in compiles with.
+if(KIV_USE_MFC)
+  install(TARGETS afx_compat EXPORT kiv_skin_targets)
+else()
   install(TARGETS afx_compat EXPORT kiv_skin_targets FILE_SET HEADERS DESTINATION include/compat)
 endif()
 install(TARGETS moxc kivlint RUNTIME DESTINATION bin)
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/schemes/cfg ${CMAKE_SOURCE_DIR}/schemes/skin
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/schemes/cfg ${PROJECT_SOURCE_DIR}/schemes/skin
   DESTINATION share/kiv_skin/schemes)
 
 install(EXPORT kiv_skin_targets NAMESPACE kiv_skin:: DESTINATION ${kiv_package_dir})
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  set(KIV_PACKAGE_ARCH x86)
+else()
+  set(KIV_PACKAGE_ARCH x64)
+endif()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/kiv_skinConfig.cmake.in
-  ${CMAKE_BINARY_DIR}/kiv_skinConfig.cmake INSTALL_DESTINATION ${kiv_package_dir})
-write_basic_package_version_file(${CMAKE_BINARY_DIR}/kiv_skinConfigVersion.cmake
-  COMPATIBILITY SameMinorVersion)
-install(FILES ${CMAKE_BINARY_DIR}/kiv_skinConfig.cmake ${CMAKE_BINARY_DIR}/kiv_skinConfigVersion.cmake
+  ${PROJECT_BINARY_DIR}/kiv_skinConfig.cmake INSTALL_DESTINATION ${kiv_package_dir})
+# The architecture is checked by kiv_skinConfig.cmake, which says what is wrong; the version file
+# only compares versions.
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/kiv_skinConfigVersion.cmake
+  COMPATIBILITY SameMinorVersion ARCH_INDEPENDENT)
+install(FILES ${PROJECT_BINARY_DIR}/kiv_skinConfig.cmake ${PROJECT_BINARY_DIR}/kiv_skinConfigVersion.cmake
   DESTINATION ${kiv_package_dir})

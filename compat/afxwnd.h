@@ -16,6 +16,15 @@ inline MSG& LastSentMessage()
     thread_local MSG message = {};
     return message;
 }
+
+// EnumThreadWindows callback of AfxGetMainWnd: keeps the first visible window without owner.
+// A named CALLBACK function, as a lambda has no stdcall conversion on 32-bit GCC.
+inline BOOL CALLBACK PickMainWnd(HWND hWnd, LPARAM lParam)
+{
+    if (!::IsWindowVisible(hWnd) || ::GetWindow(hWnd, GW_OWNER) != nullptr) return TRUE;
+    *reinterpret_cast<HWND*>(lParam) = hWnd;
+    return FALSE;
+}
 }  // namespace afx_compat_detail
 
 class CWnd : public CCmdTarget {
@@ -267,11 +276,6 @@ inline CHandleMap<CWnd, HWND>* afxMapHWND()
 inline CWnd* AfxGetMainWnd()
 {
     HWND found = nullptr;
-    auto pick = [](HWND hWnd, LPARAM lParam) -> BOOL {
-        if (!::IsWindowVisible(hWnd) || ::GetWindow(hWnd, GW_OWNER) != nullptr) return TRUE;
-        *reinterpret_cast<HWND*>(lParam) = hWnd;
-        return FALSE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), pick, reinterpret_cast<LPARAM>(&found));
+    ::EnumThreadWindows(::GetCurrentThreadId(), afx_compat_detail::PickMainWnd, reinterpret_cast<LPARAM>(&found));
     return found != nullptr ? CWnd::FromHandle(found) : nullptr;
 }

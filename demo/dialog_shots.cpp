@@ -29,17 +29,17 @@ bool IsStyleEditor(HWND hwnd)
     return std::string(name) == "#32770" && IsWindowVisible(hwnd) && GetDlgItem(hwnd, kSchemeCombo) != nullptr;
 }
 
+BOOL CALLBACK KeepStyleEditor(HWND hwnd, LPARAM param)
+{
+    if (!IsStyleEditor(hwnd)) return TRUE;
+    *reinterpret_cast<HWND*>(param) = hwnd;
+    return FALSE;
+}
+
 HWND FindStyleEditor()
 {
     HWND found = nullptr;
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND hwnd, LPARAM param) -> BOOL {
-            if (!IsStyleEditor(hwnd)) return TRUE;
-            *reinterpret_cast<HWND*>(param) = hwnd;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&found));
+    EnumThreadWindows(GetCurrentThreadId(), KeepStyleEditor, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 

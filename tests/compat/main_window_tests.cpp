@@ -30,16 +30,17 @@ TEST(AfxGetMainWnd, TheVisibleUnownedWindowNotItsOwnedOnes)
     EXPECT_EQ(nullptr, AfxGetMainWnd());
 }
 
+DWORD WINAPI ReportMainWnd(void* out)
+{
+    *static_cast<CWnd**>(out) = AfxGetMainWnd();
+    return 0;
+}
+
 TEST(AfxGetMainWnd, AnotherThreadsWindowIsNotThisThreadsMain)
 {
     HWND main = Popup(WS_VISIBLE);
     CWnd* seen = reinterpret_cast<CWnd*>(1);
-    HANDLE thread = CreateThread(
-        nullptr, 0, [](void* out) -> DWORD {
-            *static_cast<CWnd**>(out) = AfxGetMainWnd();
-            return 0;
-        },
-        &seen, 0, nullptr);
+    HANDLE thread = CreateThread(nullptr, 0, ReportMainWnd, &seen, 0, nullptr);
     WaitForSingleObject(thread, INFINITE);
     CloseHandle(thread);
     EXPECT_EQ(nullptr, seen);

@@ -2,10 +2,11 @@
 # The installed package as a plug-in project sees it: cmake --install lays out include/, lib/,
 # bin/ and the CMake package; every installed header compiles on its own; the example plug-in
 # (examples/quote_panel) configures with find_package(kiv_skin), builds against the package
-# alone, and paints its panel under Wine in the sample scheme's colours.
-# usage: package_test.sh SOURCE_ROOT BUILD_DIR WORK_DIR VERSION
+# alone, and paints its panel under Wine in the sample scheme's colours; a consumer built for the
+# other architecture is refused with a message that says so.
+# usage: package_test.sh SOURCE_ROOT BUILD_DIR WORK_DIR VERSION TOOLCHAIN CXX OTHER_TOOLCHAIN
 set -uo pipefail
-source_root=$1 build=$2 work=$3 version=$4
+source_root=$1 build=$2 work=$3 version=$4 toolchain=$5 cxx=$6 other_toolchain=$7
 failures=0 checks=0
 fail() { echo "FAIL: $*"; failures=$((failures + 1)); }
 check() { checks=$((checks + 1)); "$@" || fail "$*"; }
@@ -29,12 +30,11 @@ check test -z "$(find "$prefix" -name '*.cpp')"
 # Each installed header compiles on its own, as the first include of a plug-in's source.
 for header in $(cd "$prefix/include" && find kiv_skin kiv_base kiv_core -name '*.h'); do
   checks=$((checks + 1))
-  echo "#include <$header>" | x86_64-w64-mingw32-g++-posix -std=c++17 -D_MBCS -fsyntax-only -x c++ - \
+  echo "#include <$header>" | "$cxx" -std=c++17 -D_MBCS -fsyntax-only -x c++ - \
     -I"$prefix/include" -I"$prefix/include/compat" 2>header.err || fail "$header does not compile on its own: $(head -3 header.err)"
 done
 
 # The example: configured, built and run against the package alone.
-toolchain=$source_root/cmake/mingw-w64.cmake
 cmake -S "$source_root/examples/quote_panel" -B example -G Ninja -DCMAKE_BUILD_TYPE=Release \
   -DCMAKE_TOOLCHAIN_FILE="$toolchain" -DCMAKE_PREFIX_PATH="$prefix" >configure.log 2>&1 || { cat configure.log; exit 1; }
 check grep -q "Found kiv_skin $version\$" configure.log
@@ -67,6 +67,16 @@ mkdir -p too_new && printf 'cmake_minimum_required(VERSION 3.21)\nproject(too_ne
 checks=$((checks + 1))
 cmake -S too_new -B too_new/build -DCMAKE_PREFIX_PATH="$prefix" >too_new.log 2>&1 && fail "find_package(kiv_skin 9.0) succeeded"
 check grep -q "kiv_skinConfig.cmake, version: $version$" too_new.log
+
+# A plug-in built for the other architecture is refused, and told why.
+checks=$((checks + 1))
+cmake -S "$source_root/examples/quote_panel" -B other_arch -G Ninja -DCMAKE_TOOLCHAIN_FILE="$other_toolchain" \
+  -DCMAKE_PREFIX_PATH="$prefix" >other_arch.log 2>&1 && fail "a consumer of the other architecture was accepted"
+arch=x64 other=x86
+case $other_toolchain in *i686*) ;; *) arch=x86 other=x64 ;; esac
+# CMake wraps the package's message over lines: joined again before it is matched.
+tr -s ' \n' '  ' <other_arch.log >other_arch.txt
+check grep -qF "kiv_skin in $prefix is built for $arch, but this project builds for $other: use the kiv_skin package installed for $other" other_arch.txt
 
 echo "$checks checks, $failures failures"
 [ $failures = 0 ]

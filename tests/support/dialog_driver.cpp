@@ -22,22 +22,24 @@ bool IsDialogWindow(HWND hwnd)
     return std::string(name) == "#32770" && IsWindowVisible(hwnd);
 }
 
+struct DialogSearch {
+    const std::function<bool(HWND)>* match;
+    HWND found;
+};
+
+BOOL CALLBACK KeepMatchingDialog(HWND hwnd, LPARAM param)
+{
+    auto* search = reinterpret_cast<DialogSearch*>(param);
+    if (!IsDialogWindow(hwnd) || !(*search->match)(hwnd)) return TRUE;
+    search->found = hwnd;
+    return FALSE;
+}
+
 // The first visible dialog of the thread that satisfies match.
 HWND FindDialog(const std::function<bool(HWND)>& match)
 {
-    struct Search {
-        const std::function<bool(HWND)>* match;
-        HWND found;
-    } search = {&match, nullptr};
-    EnumThreadWindows(
-        GetCurrentThreadId(),
-        [](HWND hwnd, LPARAM param) -> BOOL {
-            auto* s = reinterpret_cast<Search*>(param);
-            if (!IsDialogWindow(hwnd) || !(*s->match)(hwnd)) return TRUE;
-            s->found = hwnd;
-            return FALSE;
-        },
-        reinterpret_cast<LPARAM>(&search));
+    DialogSearch search = {&match, nullptr};
+    EnumThreadWindows(GetCurrentThreadId(), KeepMatchingDialog, reinterpret_cast<LPARAM>(&search));
     return search.found;
 }
 
