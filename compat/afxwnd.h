@@ -260,18 +260,3 @@ inline CHandleMap<CWnd, HWND>* afxMapHWND()
         [](HWND h) { return ::IsWindow(h) != FALSE; });
     return map;
 }
-
-// The calling thread's main window. There is no application object here to hold one, so it is
-// the thread's first visible top-level window without owner (in Z order), as FromHandle wraps it;
-// null when the thread has none.
-inline CWnd* AfxGetMainWnd()
-{
-    HWND found = nullptr;
-    auto pick = [](HWND hWnd, LPARAM lParam) -> BOOL {
-        if (!::IsWindowVisible(hWnd) || ::GetWindow(hWnd, GW_OWNER) != nullptr) return TRUE;
-        *reinterpret_cast<HWND*>(lParam) = hWnd;
-        return FALSE;
-    };
-    ::EnumThreadWindows(::GetCurrentThreadId(), pick, reinterpret_cast<LPARAM>(&found));
-    return found != nullptr ? CWnd::FromHandle(found) : nullptr;
-}
