@@ -5,6 +5,9 @@
 //     kiv_demo [--gallery FOLDER]     the gallery's PNG files go to FOLDER (default "gallery")
 //     kiv_demo --window [--close-after MS]
 //                                     the live window instead, closing itself after MS if given
+//
+// A console program with MFC support: the application object, and MFC initialised first.
+#include <afxwin.h>
 #include "demo/dialog_shots.h"
 #include "demo/gallery.h"
 #include "demo/intl_report.h"
@@ -15,8 +18,14 @@
 #include <cstring>
 #include <string>
 
+CWinApp theApp;
+
 int main(int argc, char** argv)
 {
+    if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), 0)) {
+        std::printf("kiv_demo: MFC did not initialise\n");
+        return 1;
+    }
     std::string folder = "gallery";
     bool window = false;
     UINT closeAfter = 0;
