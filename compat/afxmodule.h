@@ -26,9 +26,9 @@ inline HINSTANCE AfxFindResourceHandle(LPCSTR lpszName, LPCSTR lpszType)
     HINSTANCE current = AfxGetResourceHandle();
     if (::FindResourceA(current, lpszName, lpszType) != nullptr) return current;
     afx_compat_detail::LibraryListLock hold;
-    for (BOOL system : {FALSE, TRUE})
+    for (int system = 0; system < 2; ++system)
         for (CDynLinkLibrary* dll = afx_compat_detail::ModuleState().pLibraryList; dll != nullptr; dll = dll->m_pNextDLL)
-            if ((dll->m_bSystem != FALSE) == (system != FALSE) && dll->m_hResource != nullptr &&
+            if ((dll->m_bSystem != FALSE) == (system != 0) && dll->m_hResource != nullptr &&
                 ::FindResourceA(dll->m_hResource, lpszName, lpszType) != nullptr)
                 return dll->m_hResource;
     return current;

@@ -92,14 +92,9 @@ TEST(ResourceChain, TerminatingWithAllUnlinksEveryModule)
     EXPECT_EQ(Program(), AfxFindResourceHandle(kVersion, RT_VERSION));
 }
 
-TEST(ResourceHandleDeathTest, NoneSetIsAnAssertion)
+// (Asking before AfxWinInit is the program uninitialised_mfc, run by CTest.)
+TEST(ResourceHandleDeathTest, SettingNoneIsAnAssertion)
 {
-    EXPECT_DEATH(
-        {
-            afx_compat_detail::ModuleState().hCurrentResourceHandle = nullptr;  // as before AfxWinInit
-            AfxGetResourceHandle();
-        },
-        "Assertion failed");
     EXPECT_DEATH(AfxSetResourceHandle(nullptr), "Assertion failed");
 }
 
