@@ -234,8 +234,12 @@ void Print(const char* what, const Comparison& c, const char* goal)
 
 }  // namespace
 
+// A console program with MFC support, as the library's hosts are.
+CWinApp theApp;
+
 int main()
 {
+    if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), 0)) return 1;
     if (!Scheme()->InitStyleMgr() || !Scheme()->LoadStyle("dark")) {
         std::fprintf(stderr, "the sample schemes are not installed beside the program\n");
         return 1;

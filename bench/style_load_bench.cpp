@@ -204,8 +204,12 @@ void PrintPhase(const char* what, double microseconds, double total)
 
 }  // namespace
 
+// A console program with MFC support, as the library's hosts are.
+CWinApp theApp;
+
 int main()
 {
+    if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), 0)) return 1;
     KivStyleMgr* mgr = KivStyleMgr::GetInstance();
     if (!mgr->InitStyleMgr()) {
         std::fprintf(stderr, "the sample schemes are not installed beside the program\n");

@@ -12,3 +12,4 @@
 #include "afxmodule.h"
 #include "afxdialog.h"
 #include "afxboxes.h"
+#include "afxwinapp.h"

@@ -16,15 +16,6 @@ inline MSG& LastSentMessage()
     thread_local MSG message = {};
     return message;
 }
-
-// EnumThreadWindows callback of AfxGetMainWnd: keeps the first visible window without owner.
-// A named CALLBACK function, as a lambda has no stdcall conversion on 32-bit GCC.
-inline BOOL CALLBACK PickMainWnd(HWND hWnd, LPARAM lParam)
-{
-    if (!::IsWindowVisible(hWnd) || ::GetWindow(hWnd, GW_OWNER) != nullptr) return TRUE;
-    *reinterpret_cast<HWND*>(lParam) = hWnd;
-    return FALSE;
-}
 }  // namespace afx_compat_detail
 
 class CWnd : public CCmdTarget {
@@ -268,14 +259,4 @@ inline CHandleMap<CWnd, HWND>* afxMapHWND()
         [](CWnd& wrapper, HWND h) { wrapper.m_hWnd = h; },
         [](HWND h) { return ::IsWindow(h) != FALSE; });
     return map;
-}
-
-// The calling thread's main window. There is no application object here to hold one, so it is
-// the thread's first visible top-level window without owner (in Z order), as FromHandle wraps it;
-// null when the thread has none.
-inline CWnd* AfxGetMainWnd()
-{
-    HWND found = nullptr;
-    ::EnumThreadWindows(::GetCurrentThreadId(), afx_compat_detail::PickMainWnd, reinterpret_cast<LPARAM>(&found));
-    return found != nullptr ? CWnd::FromHandle(found) : nullptr;
 }

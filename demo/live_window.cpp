@@ -45,7 +45,9 @@ LiveWindow::LiveWindow(UINT closeAfter)
     m_hwnd = ::CreateWindowExA(0, MAKEINTATOM(windowClass), "kiv_skin live", WS_OVERLAPPEDWINDOW, 40, 40, frame.right - frame.left,
                                frame.bottom - frame.top, nullptr, nullptr, ::GetModuleHandleA(nullptr), nullptr);
     ::SetWindowLongPtrA(m_hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-    // Visible first: the bars take the thread's main window for their timers when they are made.
+    // The application's main window first: the bars take it for their timers when they are made.
+    m_mainWnd.Attach(m_hwnd);
+    if (CWinApp* app = AfxGetApp()) app->m_pMainWnd = &m_mainWnd;
     ::ShowWindow(m_hwnd, SW_SHOW);
     m_panel.RenewBars();
     RECT client;
@@ -141,10 +143,18 @@ LRESULT LiveWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
         if (wParam == kCloseTimer) Close();
         return 0;
     case WM_DESTROY:
+        LeaveMainWindow();
         m_hwnd = nullptr;
         return 0;
     }
     return ::DefWindowProcA(m_hwnd, message, wParam, lParam);
+}
+
+void LiveWindow::LeaveMainWindow()
+{
+    CWinApp* app = AfxGetApp();
+    if (app != nullptr && app->m_pMainWnd == &m_mainWnd) app->m_pMainWnd = nullptr;
+    m_mainWnd.Detach();
 }
 
 // Through one off-screen copy, so that a repeat or a drag never flickers.

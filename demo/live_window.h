@@ -35,8 +35,10 @@ private:
     void Paint(HDC target);
     void Mouse(uint16_t message, CPoint pt, short wheelDelta);
     void ShowTitle();
+    void LeaveMainWindow();
 
     HWND m_hwnd = nullptr;
+    CWnd m_mainWnd;  // the window as the application's main window while it is open
     LiveObject m_windowObject;
     LiveObject m_panelObject;
     ScrollPanel m_panel;

@@ -6,6 +6,9 @@
 //     kiv_demo --dpi-gallery FOLDER   only the panels and scroll sheets, at the screen's DPI
 //     kiv_demo --window [--close-after MS]
 //                                     the live window instead, closing itself after MS if given
+//
+// A console program with MFC support: the application object, and MFC initialised first.
+#include <afxwin.h>
 #include "demo/dialog_shots.h"
 #include "demo/gallery.h"
 #include "demo/intl_report.h"
@@ -16,8 +19,14 @@
 #include <cstring>
 #include <string>
 
+CWinApp theApp;
+
 int main(int argc, char** argv)
 {
+    if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), 0)) {
+        std::printf("kiv_demo: MFC did not initialise\n");
+        return 1;
+    }
     std::string folder = "gallery";
     bool window = false, dpiOnly = false;
     UINT closeAfter = 0;

@@ -1,7 +1,7 @@
 // The library's module handle and the locks that guard the creation of its shared objects.
 // All are set up when the library is loaded.
 #pragma once
-#include <windows.h>
+#include <afxwin.h>
 #include <atomic>
 #include <cstdlib>
 

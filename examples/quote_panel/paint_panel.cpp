@@ -25,8 +25,15 @@ bool WriteBmp(const char* path, const BITMAPINFO& info, const void* pixels)
 
 }  // namespace
 
+// A console program with MFC support, as the plug-in's host is an MFC program.
+CWinApp theApp;
+
 int main(int argc, char** argv)
 {
+    if (!AfxWinInit(::GetModuleHandleA(nullptr), nullptr, ::GetCommandLineA(), 0)) {
+        std::printf("paint_panel: MFC did not initialise\n");
+        return 1;
+    }
     kiv_skin::KivStyleMgr* styles = kiv_skin::KivStyleMgr::GetInstance();
     if (!styles->InitStyleMgr()) {
         std::printf("paint_panel: the schemes beside the program did not load\n");

@@ -1,4 +1,5 @@
-// AfxGetMainWnd: the calling thread's first visible top-level window without owner.
+// AfxGetMainWnd: the window the application object holds as its main window, visible or not,
+// on the application's thread; none on a thread without a thread object.
 #include <afxwin.h>
 #include <gtest/gtest.h>
 
@@ -10,25 +11,24 @@ HWND Popup(DWORD style, HWND owner = nullptr)
                            nullptr);
 }
 
-TEST(AfxGetMainWnd, NullWhileTheThreadHasNoVisibleWindow)
-{
-    HWND hidden = Popup(0);
-    EXPECT_EQ(nullptr, AfxGetMainWnd());
-    DestroyWindow(hidden);
-}
+// A window attached to a window object that is the application's main window while it lives.
+class MainWindow {
+public:
+    explicit MainWindow(DWORD style)
+    {
+        m_window.Attach(Popup(style));
+        AfxGetApp()->m_pMainWnd = &m_window;
+    }
+    ~MainWindow()
+    {
+        AfxGetApp()->m_pMainWnd = nullptr;
+        m_window.DestroyWindow();
+    }
+    CWnd* Window() { return &m_window; }
 
-TEST(AfxGetMainWnd, TheVisibleUnownedWindowNotItsOwnedOnes)
-{
-    HWND main = Popup(WS_VISIBLE);
-    HWND owned = Popup(WS_VISIBLE, main);
-    SetWindowPos(owned, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    CWnd* found = AfxGetMainWnd();
-    ASSERT_NE(nullptr, found);
-    EXPECT_EQ(main, found->GetSafeHwnd());
-    DestroyWindow(owned);
-    DestroyWindow(main);
-    EXPECT_EQ(nullptr, AfxGetMainWnd());
-}
+private:
+    CWnd m_window;
+};
 
 DWORD WINAPI ReportMainWnd(void* out)
 {
@@ -36,15 +36,38 @@ DWORD WINAPI ReportMainWnd(void* out)
     return 0;
 }
 
-TEST(AfxGetMainWnd, AnotherThreadsWindowIsNotThisThreadsMain)
+CWnd* MainWindowOfAnotherThread()
 {
-    HWND main = Popup(WS_VISIBLE);
     CWnd* seen = reinterpret_cast<CWnd*>(1);
     HANDLE thread = CreateThread(nullptr, 0, ReportMainWnd, &seen, 0, nullptr);
     WaitForSingleObject(thread, INFINITE);
     CloseHandle(thread);
-    EXPECT_EQ(nullptr, seen);
-    DestroyWindow(main);
+    return seen;
+}
+
+TEST(AfxGetMainWnd, NullWhileTheApplicationHasNoneWhateverWindowsAreShown)
+{
+    ASSERT_EQ(nullptr, AfxGetApp()->m_pMainWnd);
+    HWND shown = Popup(WS_VISIBLE);
+    EXPECT_EQ(nullptr, AfxGetMainWnd());
+    DestroyWindow(shown);
+}
+
+TEST(AfxGetMainWnd, TheApplicationsMainWindowHiddenOrShown)
+{
+    MainWindow hidden(0);
+    HWND shown = Popup(WS_VISIBLE);
+    EXPECT_EQ(hidden.Window(), AfxGetMainWnd());
+    hidden.Window()->ShowWindow(SW_SHOW);
+    EXPECT_EQ(hidden.Window(), AfxGetMainWnd());
+    DestroyWindow(shown);
+}
+
+TEST(AfxGetMainWnd, AnotherThreadHasNone)
+{
+    MainWindow main(WS_VISIBLE);
+    EXPECT_EQ(nullptr, MainWindowOfAnotherThread());
+    EXPECT_EQ(main.Window(), AfxGetMainWnd());
 }
 
 }  // namespace

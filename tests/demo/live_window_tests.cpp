@@ -141,6 +141,15 @@ TEST_F(LiveWindowTest, EditorKeyAppliesAColourEditedAndConfirmedInTheStyleEditor
     EXPECT_EQ(edited, shot->Pixel(bar.left + 8, bar.bottom - 30));  // the track below the thumb
 }
 
+// So the bars' repeat timers run on it.
+TEST_F(LiveWindowTest, IsTheApplicationsMainWindowWhileOpen)
+{
+    ASSERT_NE(nullptr, AfxGetMainWnd());
+    EXPECT_EQ(Hwnd(), AfxGetMainWnd()->GetSafeHwnd());
+    window.reset();
+    EXPECT_EQ(nullptr, AfxGetMainWnd());
+}
+
 TEST_F(LiveWindowTest, ClosesItselfWhenAsked)
 {
     LiveWindow shortLived(300);

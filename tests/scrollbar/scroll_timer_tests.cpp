@@ -1,5 +1,6 @@
 // The repeat timer for real, through this thread's message loop: holding an arrow and holding
-// the track. Times are asserted within ranges that a loaded machine keeps.
+// the track, and where the timer runs: on the application's main window when it has one, on the
+// thread when it has none. Times are asserted within ranges that a loaded machine keeps.
 #include "scroll_fixture.h"
 #include <algorithm>
 
@@ -101,6 +102,81 @@ TEST_F(ScrollTimer, HoldingTheThumbChangesNothing)
     Send(bar, DMOUSE_LBUTTONUP, kBarX, 20);
     EXPECT_EQ(0, bar.GetScrollPos());
     EXPECT_TRUE(owner.received.empty());
+}
+
+// Where the timer messages of this thread went.
+struct TimerTicks {
+    int onWindow = 0;  // to the window watched
+    int onThread = 0;  // thread timers
+    int elsewhere = 0;
+};
+
+// Dispatches the thread's messages until done() or until ms milliseconds have passed, counting
+// its timer messages by their window; answers done().
+template <class Done> bool PumpCountingTimers(HWND window, TimerTicks& ticks, Done done, DWORD ms)
+{
+    DWORD start = ::GetTickCount();
+    while (!done() && ::GetTickCount() - start < ms) {
+        MSG msg;
+        while (::PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
+            if (msg.message == WM_TIMER) ++(msg.hwnd == window ? ticks.onWindow : msg.hwnd == nullptr ? ticks.onThread : ticks.elsewhere);
+            ::TranslateMessage(&msg);
+            ::DispatchMessageA(&msg);
+        }
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 5, QS_ALLINPUT);
+    }
+    return done();
+}
+
+// A hidden window that is the application's main window while it lives.
+class ApplicationMainWindow {
+public:
+    ApplicationMainWindow()
+    {
+        m_window.Attach(::CreateWindowExA(0, "STATIC", "", WS_POPUP, 0, 0, 50, 50, nullptr, nullptr,
+                                          ::GetModuleHandleA(nullptr), nullptr));
+        AfxGetApp()->m_pMainWnd = &m_window;
+    }
+    ~ApplicationMainWindow()
+    {
+        AfxGetApp()->m_pMainWnd = nullptr;
+        m_window.DestroyWindow();
+    }
+    HWND Handle() const { return m_window.m_hWnd; }
+
+private:
+    CWnd m_window;
+};
+
+TEST_F(ScrollTimer, WithAMainWindowTheRepeatTicksOnThatWindow)
+{
+    ApplicationMainWindow main;
+    PluginScrollBar onMain;  // made while the application has its main window
+    MakeOwned(onMain, owner);
+    Send(onMain, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
+    TimerTicks ticks;
+    ASSERT_TRUE(PumpCountingTimers(main.Handle(), ticks, [&] { return onMain.GetScrollPos() == 5; }, 5000));
+    Send(onMain, DMOUSE_LBUTTONUP, kBarX, kSecondArrowY);
+    EXPECT_EQ((std::vector<int>{2, 3, 4, 5}), Positions());
+    EXPECT_GE(ticks.onWindow, 4);
+    EXPECT_EQ(0, ticks.onThread);
+    EXPECT_EQ(0, ticks.elsewhere);
+}
+
+TEST_F(ScrollTimer, WithoutAMainWindowTheRepeatTicksOnTheThread)
+{
+    ASSERT_EQ(nullptr, AfxGetMainWnd());
+    HWND shown = ::CreateWindowExA(0, "STATIC", "", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50, nullptr, nullptr,
+                                   ::GetModuleHandleA(nullptr), nullptr);  // not the application's
+    Send(bar, DMOUSE_LBUTTONDOWN, kBarX, kSecondArrowY);
+    TimerTicks ticks;
+    ASSERT_TRUE(PumpCountingTimers(shown, ticks, [&] { return bar.GetScrollPos() == 5; }, 5000));
+    Send(bar, DMOUSE_LBUTTONUP, kBarX, kSecondArrowY);
+    EXPECT_EQ((std::vector<int>{2, 3, 4, 5}), Positions());
+    EXPECT_GE(ticks.onThread, 4);
+    EXPECT_EQ(0, ticks.onWindow);
+    EXPECT_EQ(0, ticks.elsewhere);
+    ::DestroyWindow(shown);
 }
 
 }  // namespace

@@ -53,9 +53,10 @@ Difference Compare(const DibCanvas& a, const DibCanvas& b, const RECT& area)
 
 class StyleDlgTest : public ::testing::Test {
 protected:
+    // The resource handle stays the program's: the dialog's template comes from the library
+    // through the resource chain.
     void SetUp() override
     {
-        AfxSetResourceHandle(GetModuleHandleA("kiv_skin.dll"));
         frameRow = RowInDarkAndLight(files, "PLUG_FRAME");
         ASSERT_GE(frameRow, 0);
     }

@@ -1,7 +1,8 @@
 // The style dialog's template as kiv_skin.dll holds it, read back item by item: caption, font,
 // size, and each control's class, id, text, rectangle and style, the texts as UTF-16. The same
-// program runs under the default code page and under 936: the texts must not depend on it.
-#include <windows.h>
+// program runs under the default code page and under 936: the texts must not depend on it. The
+// framework finds the template through the resource chain, which the library joins when it loads.
+#include <afxwin.h>
 #include <gtest/gtest.h>
 #include <cstdint>
 #include <string>
@@ -125,6 +126,23 @@ void ExpectControl(const Template& t, size_t index, WORD kind, int id, const std
 }
 
 }  // namespace
+
+// First in the program, before any other test loads the library.
+TEST(ResourceChain, TheLibraryJoinsItWhenLoadedAndLeavesItWhenUnloaded)
+{
+    LPCSTR dialog = MAKEINTRESOURCEA(311);
+    HINSTANCE program = ::GetModuleHandleA(nullptr);
+    ASSERT_EQ(nullptr, ::GetModuleHandleA("kiv_skin.dll")) << "the library must not be loaded yet";
+    ASSERT_EQ(program, AfxGetResourceHandle());
+    EXPECT_EQ(program, AfxFindResourceHandle(dialog, RT_DIALOG)) << "nobody has it";
+    HMODULE library = ::LoadLibraryA("kiv_skin.dll");
+    ASSERT_NE(nullptr, library);
+    EXPECT_EQ(library, AfxFindResourceHandle(dialog, RT_DIALOG));
+    EXPECT_EQ(program, AfxGetResourceHandle());
+    ::FreeLibrary(library);
+    ASSERT_EQ(nullptr, ::GetModuleHandleA("kiv_skin.dll"));
+    EXPECT_EQ(program, AfxFindResourceHandle(dialog, RT_DIALOG));
+}
 
 TEST(StyleDialogTemplate, CaptionFontAndSize)
 {
