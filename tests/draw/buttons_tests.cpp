@@ -51,7 +51,7 @@ TEST_F(TestSchemeButtons, StripHasInkAndGroundInTheIconTested)
 
 TEST_F(TestSchemeButtons, IconIsCentredInALargerRectOnTheStateBackground)
 {
-    Sheet sheet(30, 30);
+    Sheet sheet(30, 30, Caller::Fresh);  // a caller in GDI's defaults exists too
     CRect rect(3, 3, 27, 27);  // 24 x 24
     KivDraw draw;
     draw.DrawButton(sheet.dc(), &rect, KivDraw::BUTTON_NORMAL, kImage, 0, 0);
@@ -148,7 +148,7 @@ TEST_F(TestSchemeButtons, BackgroundFillLeavesTheBackgroundColourSet)
     EXPECT_EQ(36, sheet.Count(scheme::kButtonPressed, rect));
     // As the framework's FillSolidRect does; everything else is as it was.
     EXPECT_EQ(scheme::kButtonPressed, sheet.dc()->GetBkColor());
-    ::SetBkColor(sheet.dc()->m_hDC, RGB(255, 255, 255));
+    ::SetBkColor(sheet.dc()->m_hDC, BusyDc::kPaper);  // the caller's own
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 
