@@ -10,12 +10,14 @@
 // to its own as well, for tests of what is restored rather than of what is drawn.
 #pragma once
 #include <afxwin.h>
+#include <vector>
 
 class BusyDc {
 public:
     enum class Modes { Documented, Own };
 
-    // Makes the context of a width x height surface busy; its clip region cuts nothing of it.
+    // Makes both handles of the context of a width x height surface busy, with the same objects
+    // selected in each (as the framework's selections keep them); its clip region cuts nothing.
     BusyDc(CDC* dc, int width, int height, Modes modes);
     ~BusyDc();
     BusyDc(const BusyDc&) = delete;
@@ -26,9 +28,14 @@ public:
     static const int kRop2 = R2_MERGEPENNOT;
 
 private:
-    HDC m_hdc;
+    struct Handle {
+        HDC hdc;
+        HGDIOBJ oldPen = nullptr, oldBrush = nullptr, oldFont = nullptr;
+    };
+    void MakeBusy(Handle& h, int width, int height, Modes modes);
+
     HPEN m_pen;
     HBRUSH m_brush;
     HFONT m_font;
-    HGDIOBJ m_oldPen, m_oldBrush, m_oldFont;
+    std::vector<Handle> m_handles;
 };
