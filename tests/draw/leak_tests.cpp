@@ -97,8 +97,9 @@ const std::vector<Operation>& Operations()
              draw.DrawUL(dc, 40, 2, ETO_OPAQUE, &rect, "1688.00", 7, nullptr, 0);
          }},
         {"DrawRichText", [](CDC* dc) {
-             KivDraw::DrawRichText(dc, &rect, 2, "<*sc=UPTEXT*>600519<*b*><*it*><*u*>x<*f=SimSun*><*s=14*>\n1<*bk=FF*>y"
-                                   "<*sysbk=PLUG_BGCOLOR*><*sf=SMALL*>z<*si=IMG_RISE*><*a href=q*>", CRect(1, 1, 1, 1), 0, 60);
+             const char* markup = "<*sc=UPTEXT*>600519<*b*><*it*><*u*>x<*f=SimSun*><*s=14*>\n1<*bk=FF*>y"
+                                  "<*sysbk=PLUG_BGCOLOR*><*sf=SMALL*>z<*si=IMG_RISE*><*a href=q*>";
+             KivDraw::DrawRichText(dc, &rect, 2, markup, CRect(1, 1, 1, 1), 0, 60);
          }},
         {"PluginTitle", [](CDC* dc) {
              COLORREF paper = dc->GetBkColor();  // the band is filled as FillSolidRect fills

@@ -310,8 +310,9 @@ TEST_F(StyleDlgTest, ClickOutsideTheRowsHighlightsNothing)
 }
 
 // The dialog's own repaints (a colour and a font picked, the clock's tick), over and over: a
-// round ends with as many live GDI objects as the round before it ended with. (Wine's own painting of the window, behind
-// WM_PAINT, does not keep the slot still, so the rounds leave it out.)
+// round ends with as many live GDI objects as the round before it ended with, counted by the
+// many-probe ceiling (one probe's slot would only show the slot last freed). Wine's own painting
+// of the window, behind WM_PAINT, is left out of the rounds.
 TEST_F(StyleDlgTest, RepaintsLeaveNoGdiObjectBehind)
 {
     int first = 0, second = 0;
