@@ -2,7 +2,8 @@
 // and for 10,000 and 100,000 bytes, parsing is timed against the baseline of producing the same
 // runs without parsing: copying the markup once and pushing copies of the runs into an empty
 // vector (which allocates and moves as parsing does). A linear parser keeps that ratio about the
-// same at both sizes; a quadratic one would multiply it by ten. Times are medians of repeated runs.
+// same at both sizes; a quadratic one would multiply it by ten. The two are timed alternately, run
+// by run, and the ratio is the median of the per-run ratios.
 #include "bench/bench_timer.h"
 #include "kiv_skin/draw/rich_text_markup.h"
 #include <cstdio>
@@ -35,17 +36,16 @@ double ParseOverBuild(const Shape& shape, size_t length, size_t& sink)
         markup += shape.piece;
     markup.resize(length);
     const std::vector<MarkupRun> runs = ParseRichTextMarkup(markup.c_str());
-    const double parse = MedianMicroseconds(31, 1, [&](int) {
+    const Comparison c = Compare(31, 1, [&](int) {
         sink += ParseRichTextMarkup(markup.c_str()).size();
-    });
-    const double build = MedianMicroseconds(31, 1, [&](int) {
+    }, [&](int) {
         const std::string bytes(markup.c_str());
         std::vector<MarkupRun> copies;
         for (const MarkupRun& run : runs)
             copies.push_back(run);
         sink += copies.size() + bytes.size();
     });
-    return parse / build;
+    return c.ratio;
 }
 
 }  // namespace

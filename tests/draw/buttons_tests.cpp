@@ -51,7 +51,7 @@ TEST_F(TestSchemeButtons, StripHasInkAndGroundInTheIconTested)
 
 TEST_F(TestSchemeButtons, IconIsCentredInALargerRectOnTheStateBackground)
 {
-    Sheet sheet(30, 30);
+    Sheet sheet(30, 30, Caller::Fresh);  // a caller in GDI's defaults exists too
     CRect rect(3, 3, 27, 27);  // 24 x 24
     KivDraw draw;
     draw.DrawButton(sheet.dc(), &rect, KivDraw::BUTTON_NORMAL, kImage, 0, 0);
@@ -121,11 +121,21 @@ TEST_F(TestSchemeButtons, FramedButtonOutlinesTheWholeRect)
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 
+// Nothing is made for a null context: no GDI object lives on, the rect is untouched, and the
+// same object then draws a button as a fresh one does.
 TEST_F(TestSchemeButtons, NullContextDrawsNothing)
 {
     KivDraw draw;
-    CRect rect(0, 0, 10, 10);
-    draw.DrawButton(nullptr, &rect, KivDraw::BUTTON_NORMAL, 0, 0, 1);
+    CRect rect(1, 1, 25, 25);
+    int before = GdiProbeSlot();
+    draw.DrawButton(nullptr, &rect, KivDraw::BUTTON_NORMAL, kImage, 0, 1);
+    EXPECT_EQ(before, GdiProbeSlot());
+    EXPECT_EQ(CRect(1, 1, 25, 25), rect);
+    Sheet after(26, 26), fresh(26, 26);
+    draw.DrawButton(after.dc(), &rect, KivDraw::BUTTON_NORMAL, kImage, 0, 1);
+    KivDraw().DrawButton(fresh.dc(), &rect, KivDraw::BUTTON_NORMAL, kImage, 0, 1);
+    EXPECT_EQ(24, after.Count(scheme::kPlugFrame, {1, 1, 25, 2}));
+    EXPECT_TRUE(SamePixels(after, fresh));
 }
 
 TEST_F(TestSchemeButtons, BackgroundFillLeavesTheBackgroundColourSet)
@@ -138,7 +148,7 @@ TEST_F(TestSchemeButtons, BackgroundFillLeavesTheBackgroundColourSet)
     EXPECT_EQ(36, sheet.Count(scheme::kButtonPressed, rect));
     // As the framework's FillSolidRect does; everything else is as it was.
     EXPECT_EQ(scheme::kButtonPressed, sheet.dc()->GetBkColor());
-    ::SetBkColor(sheet.dc()->m_hDC, RGB(255, 255, 255));
+    ::SetBkColor(sheet.dc()->m_hDC, BusyDc::kPaper);  // the caller's own
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 

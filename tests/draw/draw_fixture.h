@@ -1,10 +1,12 @@
 // Shared ground of the drawing tests: the test scheme's colours, the scheme situations each test
 // process is in, and canvases pre-filled with a sentinel colour that no scheme key has.
 #pragma once
+#include "support/busy_dc.h"
 #include "support/dc_state.h"
 #include "support/dib_canvas.h"
 #include <afxwin.h>
 #include <gtest/gtest.h>
+#include <memory>
 
 // The test scheme (tests/draw/schemes): every colour key its own value.
 namespace scheme {
@@ -39,15 +41,30 @@ protected:
     static void SetUpTestSuite() { UseScheme("bare"); }
 };
 
-// A canvas filled with the sentinel, and the state of its DC when the test began.
+// Who hands the context over: a plug-in in the middle of its own painting (keeping the modes the
+// documented pixels assume, or with its own modes too; see BusyDc), or a fresh context in GDI's
+// defaults.
+enum class Caller { Busy, BusyWithOwnModes, Fresh };
+
+// A canvas filled with the sentinel, its DC as the caller left it, and the DC's state when the
+// test began.
 class Sheet {
 public:
-    Sheet(int width, int height) : canvas(width, height, kSentinel), check(canvas.dc()) {}
+    Sheet(int width, int height, Caller caller = Caller::Busy)
+        : canvas(width, height, kSentinel),
+          busy(caller == Caller::Fresh ? nullptr
+                                       : std::make_unique<BusyDc>(canvas.dc(), width, height,
+                                                                  caller == Caller::Busy ? BusyDc::Modes::Documented
+                                                                                         : BusyDc::Modes::Own)),
+          check(canvas.dc())
+    {
+    }
     CDC* dc() { return canvas.dc(); }
     COLORREF At(int x, int y) const { return canvas.Pixel(x, y); }
     int Count(COLORREF color, const RECT& area) const { return canvas.Count(color, area); }
 
     DibCanvas canvas;
+    std::unique_ptr<BusyDc> busy;
     DcStateCheck check;
 };
 

@@ -65,7 +65,7 @@ TEST_F(TestSchemeTitle, ChineseTitleIsCentredInABandFromTheAreasTop)
     // The band is filled as the framework's FillSolidRect fills, which leaves the background colour
     // set to the band's; everything else is as it was.
     EXPECT_EQ(scheme::kTitleBackground, sheet.dc()->GetBkColor());
-    ::SetBkColor(sheet.dc()->m_hDC, RGB(255, 255, 255));
+    ::SetBkColor(sheet.dc()->m_hDC, BusyDc::kPaper);  // the caller's own
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 

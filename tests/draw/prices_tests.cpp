@@ -2,6 +2,8 @@
 // sign, compared with the same pieces drawn by hand.
 #include "draw_fixture.h"
 #include "kiv_skin/draw/kiv_draw.h"
+#include "kiv_skin/style/kiv_style_mgr.h"
+#include "support/bitmap_files.h"
 #include <cstring>
 
 using kiv_skin::KivDraw;
@@ -32,13 +34,22 @@ public:
         SIZE whole = Extent(integral), part = Extent(fraction);
         ::TextOutA(hdc, x0 + pad, y, integral, static_cast<int>(std::strlen(integral)));
         ::TextOutA(hdc, x0 + pad + whole.cx, y, fraction, static_cast<int>(std::strlen(fraction)));
-        if (mark >= 0) KivDraw().DrawArrow(dc(), x0 + 5, y + whole.cy - 8, mark, kInk, 0, 1, false);
+        if (mark >= 0) MarkByHand(x0, y + whole.cy - 13, mark);
         HPEN pen = ::CreatePen(PS_SOLID, 1, kInk);
         HGDIOBJ previous = ::SelectObject(hdc, pen);
         ::MoveToEx(hdc, x0 + pad + whole.cx, y + whole.cy - 1, nullptr);
         ::LineTo(hdc, x0 + pad + whole.cx + part.cx, y + whole.cy - 1);
         ::SelectObject(hdc, previous);
         ::DeleteObject(pen);
+    }
+
+    // The mark's 12 x 12 cell of the strip at (x, y): ink where its mask is black.
+    void MarkByHand(int x, int y, int mark)
+    {
+        PixelGrid strip = BitmapPixels(*kiv_skin::KivStyleMgr::GetInstance()->GetBitmap("KIV_MARK"));
+        for (int j = 0; j < 12; ++j)
+            for (int i = 0; i < 12; ++i)
+                if (strip.At(24 * mark + i, j) == RGB(0, 0, 0)) ::SetPixel(dc()->m_hDC, x + i, y + j, kInk);
     }
 
 private:
@@ -116,7 +127,9 @@ TEST_F(TestSchemePrices, OnlyTheIntegralPartPaintsAnOpaqueBackground)
     CRect clip(5, 2, 120, 25);
     KivDraw draw;
     draw.DrawUL(sheet.dc(), 10, 5, ETO_OPAQUE | ETO_CLIPPED, &clip, "8.92", 4, nullptr, 0);
-    KivDraw::FillRect(byHand.dc(), &clip, RGB(20, 20, 40));
+    HBRUSH background = ::CreateSolidBrush(RGB(20, 20, 40));
+    ::FillRect(byHand.dc()->m_hDC, &clip, background);
+    ::DeleteObject(background);
     byHand.ByHand(10, 5, "8", "92", 0, -1);
     EXPECT_TRUE(SamePixels(sheet, byHand)) << "the fraction must not paint over the integral part";
     EXPECT_TRUE(sheet.check.Unchanged());

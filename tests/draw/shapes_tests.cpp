@@ -36,7 +36,7 @@ using TestSchemeShapes = TestScheme;
 
 TEST_F(TestSchemeShapes, FillPaintsTheColourWithExclusiveRightAndBottom)
 {
-    Sheet sheet(10, 10);
+    Sheet sheet(10, 10, Caller::Fresh);  // a caller in GDI's defaults exists too
     KivDraw::FillRect(sheet.dc(), 2, 3, 4, 5, kInk);
     EXPECT_EQ(20, sheet.Count(kInk, {0, 0, 10, 10}));
     EXPECT_EQ(20, sheet.Count(kInk, {2, 3, 6, 8}));
@@ -166,7 +166,7 @@ TEST_F(TestSchemeShapes, PanelFrameFillsTheBackgroundAndOutlinesInside)
     // Filling a solid rectangle leaves the background colour set to the fill, as the framework's
     // FillSolidRect does; everything else is as it was.
     EXPECT_EQ(scheme::kPlugBackground, sheet.dc()->GetBkColor());
-    ::SetBkColor(sheet.dc()->m_hDC, RGB(255, 255, 255));
+    ::SetBkColor(sheet.dc()->m_hDC, BusyDc::kPaper);  // the caller's own
     EXPECT_TRUE(sheet.check.Unchanged());
 }
 
@@ -187,6 +187,6 @@ TEST(NoStyleShapes, MissingColoursReachThePensAndBrushesAsTheyStand)
     EXPECT_EQ(1, KivDraw::DrawPluginFrame(sheet.dc(), &rect));
     EXPECT_EQ(-1, KivDraw::DrawPluginSelect(nullptr, &rect, 0, 0, 0));
     EXPECT_EQ(1, KivDraw::DrawPluginSelect(sheet.dc(), &rect, 0, 0, 0));
-    ::SetBkColor(sheet.dc()->m_hDC, RGB(255, 255, 255));
+    ::SetBkColor(sheet.dc()->m_hDC, BusyDc::kPaper);  // the caller's own
     EXPECT_TRUE(sheet.check.Unchanged());
 }

@@ -9,18 +9,25 @@ using kiv_skin::KivDraw;
 
 namespace {
 
-// Output to a sentinel-filled canvas, attributes from a second one.
+// Output to a sentinel-filled canvas, attributes from a second one; both handles busy with the
+// caller's own modes.
 class SplitSheet {
 public:
     SplitSheet() : output(60, 40, kSentinel), attributes(60, 40, kSentinel)
     {
         dc.m_hDC = output.dc()->m_hDC;
         dc.m_hAttribDC = attributes.dc()->m_hDC;
+        busy = std::make_unique<BusyDc>(&dc, 60, 40, BusyDc::Modes::Own);
     }
-    ~SplitSheet() { dc.Detach(); }
+    ~SplitSheet()
+    {
+        busy.reset();
+        dc.Detach();
+    }
 
     DibCanvas output, attributes;
     CDC dc;
+    std::unique_ptr<BusyDc> busy;
 };
 
 }  // namespace

@@ -193,6 +193,27 @@ TEST_F(ScrollDrawing, GradientPiecesStretchAStripColumnInABlackFrame)
     }
 }
 
+// Bars at the start, in the middle and at the end, and every kind of piece, hand back a busy
+// caller's context with the caller's own modes as they found it.
+TEST_F(ScrollDrawing, DrawingRestoresABusyCallersOwnModes)
+{
+    for (int pos : {0, 45, 90}) {
+        PluginScrollBar bar;
+        MakeStandard(bar);
+        bar.SetScrollPos(pos);
+        Sheet sheet(120, 110, Caller::BusyWithOwnModes);
+        bar.Draw(sheet.dc());
+        EXPECT_TRUE(sheet.check.Unchanged()) << "position " << pos;
+    }
+    for (int type : {-3, -2, -1, 0, 1, 2, 4, 5, 100, 132, 200, 300}) {
+        Sheet sheet(40, 30, Caller::BusyWithOwnModes);
+        PluginScrollBar bar;
+        CRect piece(3, 4, 33, 25);
+        Internals::DrawPiece(bar, sheet.dc(), &piece, type, 1);
+        EXPECT_TRUE(sheet.check.Unchanged()) << "piece " << type;
+    }
+}
+
 // Before a Draw the colour fields are unset; one Draw fetches them.
 void FetchColours(PluginScrollBar& bar)
 {

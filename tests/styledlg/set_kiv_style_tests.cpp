@@ -4,6 +4,7 @@
 #include "support/dialog_driver.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/style/color_table.h"
+#include "kiv_skin/style/font_table.h"
 #include "support/scheme_files.h"
 #include <gtest/gtest.h>
 
@@ -66,12 +67,17 @@ TEST_F(SetKivStyleTest, EditedColourIsSavedAndTheSchemeReloaded)
     EXPECT_EQ(kEdited, manager->GetColor("PLUG_FRAME"));
 }
 
+// The dialog opens on the catalogue's first scheme: the chooser starts from its frame colour.
 TEST_F(SetKivStyleTest, CancelAnswersZeroWithAnEmptyNameAndSavesNothing)
 {
-    EditFrameColor();
+    COLORREF shown = 0;
+    driver.Then(PickListRow(1006, frameRow)).Then(Press(1008)).Then(AnswerColor(kEdited, &shown));
     driver.Then(Press(IDCANCEL));
+    kiv_skin::ColorTable dark;
+    ASSERT_EQ(1, kiv_skin::LoadColors(dark, files.Path("dark").c_str()));
     CString name("before");
     EXPECT_EQ(0, manager->SetKivStyle(name));
+    EXPECT_EQ(kiv_skin::LookupColor(dark, "PLUG_FRAME"), shown);
     EXPECT_TRUE(name.IsEmpty());
     ExpectUnchanged("dark");
     EXPECT_EQ("dark", std::string(manager->GetCurrentStyle()));
@@ -103,4 +109,43 @@ TEST_F(SetKivStyleTest, SchemeSavedWhileSwitchingIsReloadedAndTheSelectedOneName
     ExpectUnchanged("light");
     EXPECT_EQ("dark", std::string(manager->GetCurrentStyle()));
     EXPECT_EQ(kEdited, manager->GetColor("PLUG_FRAME"));
+}
+
+// Answering Cancel to the prompt drops the edit: nothing is saved and nothing applied.
+TEST_F(SetKivStyleTest, PromptAnsweredCancelDropsTheEdit)
+{
+    EditFrameColor();
+    driver.Then(SelectScheme(kLight)).Then(AnswerMessageBox(kPrompt, IDCANCEL)).Then(Press(IDOK));
+    CString name;
+    EXPECT_EQ(0, manager->SetKivStyle(name));
+    EXPECT_TRUE(name.IsEmpty());
+    ExpectUnchanged("dark");
+    ExpectUnchanged("light");
+    EXPECT_EQ("dark", std::string(manager->GetCurrentStyle()));
+    EXPECT_NE(kEdited, manager->GetColor("PLUG_FRAME"));
+}
+
+namespace {
+
+std::string FaceOf(const CFont* font)
+{
+    LOGFONTA description = {};
+    if (font != nullptr) const_cast<CFont*>(font)->GetLogFont(&description);
+    return description.lfFaceName;
+}
+
+}  // namespace
+
+// A font chosen in the font dialog is written by OK and the scheme reloaded with it.
+TEST_F(SetKivStyleTest, EditedFontIsSavedAndTheSchemeReloaded)
+{
+    driver.Then(Press(1010)).Then(AnswerFont("DejaVu Sans", "12")).Wait(200).Then(Press(IDOK));
+    CString name;
+    EXPECT_EQ(1, manager->SetKivStyle(name));
+    EXPECT_EQ("dark", std::string(name));
+    kiv_skin::FontTable saved;
+    ASSERT_TRUE(kiv_skin::LoadFonts(files.Path("dark").c_str(), saved));
+    EXPECT_EQ("DejaVu Sans", FaceOf(kiv_skin::LookupFont(saved, "DEFAULT")));
+    EXPECT_EQ("DejaVu Sans", FaceOf(manager->GetFont("DEFAULT")));
+    ExpectUnchanged("light");
 }

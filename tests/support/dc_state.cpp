@@ -18,6 +18,7 @@ std::vector<char> ClipRegionData(HDC hdc, bool& clipped)
 }
 
 bool Same(POINT a, POINT b) { return a.x == b.x && a.y == b.y; }
+bool Same(SIZE a, SIZE b) { return a.cx == b.cx && a.cy == b.cy; }
 
 }  // namespace
 
@@ -35,8 +36,18 @@ DcState DcState::Capture(HDC hdc)
     s.rop2 = GetROP2(hdc);
     s.mapMode = GetMapMode(hdc);
     s.stretchMode = GetStretchBltMode(hdc);
+    s.fillMode = GetPolyFillMode(hdc);
+    s.charExtra = GetTextCharacterExtra(hdc);
+    s.arcDirection = GetArcDirection(hdc);
+    s.graphicsMode = GetGraphicsMode(hdc);
+    s.layout = GetLayout(hdc);
+    s.palette = GetCurrentObject(hdc, OBJ_PAL);
     GetCurrentPositionEx(hdc, &s.position);
     GetBrushOrgEx(hdc, &s.brushOrigin);
+    GetViewportOrgEx(hdc, &s.viewportOrigin);
+    GetWindowOrgEx(hdc, &s.windowOrigin);
+    GetViewportExtEx(hdc, &s.viewportExtent);
+    GetWindowExtEx(hdc, &s.windowExtent);
     s.clipRegion = ClipRegionData(hdc, s.clipped);
     return s;
 }
@@ -58,8 +69,18 @@ std::string DcState::Differences(const DcState& o) const
     note(rop2 == o.rop2, "ROP2 mode");
     note(mapMode == o.mapMode, "map mode");
     note(stretchMode == o.stretchMode, "stretch mode");
+    note(fillMode == o.fillMode, "polygon fill mode");
+    note(charExtra == o.charExtra, "character extra");
+    note(arcDirection == o.arcDirection, "arc direction");
+    note(graphicsMode == o.graphicsMode, "graphics mode");
+    note(layout == o.layout, "layout");
+    note(palette == o.palette, "palette");
     note(Same(position, o.position), "current position");
     note(Same(brushOrigin, o.brushOrigin), "brush origin");
+    note(Same(viewportOrigin, o.viewportOrigin), "viewport origin");
+    note(Same(windowOrigin, o.windowOrigin), "window origin");
+    note(Same(viewportExtent, o.viewportExtent), "viewport extent");
+    note(Same(windowExtent, o.windowExtent), "window extent");
     note(clipped == o.clipped && clipRegion == o.clipRegion, "clip region");
     return d;
 }

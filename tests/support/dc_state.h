@@ -11,8 +11,11 @@ struct DcState {
     COLORREF textColor, bkColor;
     int bkMode;
     UINT textAlign;
-    int rop2, mapMode, stretchMode;
-    POINT position, brushOrigin;
+    int rop2, mapMode, stretchMode, fillMode, charExtra, arcDirection, graphicsMode;
+    DWORD layout;
+    HGDIOBJ palette;
+    POINT position, brushOrigin, viewportOrigin, windowOrigin;
+    SIZE viewportExtent, windowExtent;
     bool clipped;
     std::vector<char> clipRegion;  // the clip region's data, empty when there is none
 
