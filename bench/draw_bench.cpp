@@ -201,9 +201,9 @@ void PanelByHand(CDC* target, int rows = kRows)
 }
 
 // Where a caption's time goes: the raw calls the kit makes for it, each timed alone. Per text run
-// the kit measures it while measuring, and while drawing measures it again, reads the widths the
-// cut-text walk needs and draws it; per pass it reads and restores the context's colours, mode
-// and font, and sets the tags' colours.
+// the kit measures it while measuring and draws it while drawing; the cut-text walk reads the
+// widths of the codes of all runs at once; per pass it reads and restores the context's colours,
+// mode and font, and sets the tags' colours.
 void PrintCaptionProfile(HDC hdc, double caption)
 {
     SIZE size;
@@ -220,7 +220,7 @@ void PrintCaptionProfile(HDC hdc, double caption)
         SetBkMode(hdc, GetBkMode(hdc));
     });
     double colour = cost([&] { SetTextColor(hdc, GetTextColor(hdc)); });
-    double gdi = 3 * (2 * extent + charWidths + draw) + 2 * state + 6 * colour;
+    double gdi = 3 * (extent + draw) + charWidths + 2 * state + 6 * colour;
     CDC* dc = CDC::FromHandle(hdc);
     CRect rect(0, 0, kWidth, kRowHeight);
     double empty = cost([&] { KivDraw::DrawRichText(dc, &rect, "", CRect(4, 2, 0, 0), 0, 100); });
@@ -232,10 +232,10 @@ void PrintCaptionProfile(HDC hdc, double caption)
     unsigned hex = 0;
     double scan = cost([&] { std::sscanf("FF", "%X", &hex); });
     std::printf("  one scheme colour look-up %.2f us, one hexadecimal scan %.2f us\n", lookup, scan);
-    std::printf("  caption profile: 6 text extents %.1f us, 3 width reads %.1f us, 3 text draws %.1f us,\n"
+    std::printf("  caption profile: 3 text extents %.1f us, 1 width read %.1f us, 3 text draws %.1f us,\n"
                 "  2 state saves and restores %.1f us, 6 colour sets %.1f us; the rest (parsing, tag and\n"
                 "  scheme look-ups, conversions) %.1f us\n",
-                6 * extent, 3 * charWidths, 3 * draw, 2 * state, 6 * colour, caption - gdi);
+                3 * extent, charWidths, 3 * draw, 2 * state, 6 * colour, caption - gdi);
 }
 
 void Print(const char* what, const Comparison& c, const char* goal)

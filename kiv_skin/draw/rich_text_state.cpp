@@ -5,7 +5,7 @@ namespace kiv_skin {
 
 sDCStats::sDCStats(CDC* pDC)
     : dc(pDC), textColor(pDC->GetTextColor()), bkColor(pDC->GetBkColor()), bkMode(pDC->GetBkMode()),
-      logFont()
+      logFont(), walk(pDC)
 {
     ::GetObjectA(::GetCurrentObject(pDC->m_hAttribDC, OBJ_FONT), sizeof(LOGFONTA), &logFont);
 }
@@ -28,6 +28,7 @@ void sDCStats::Select(CFont* selected)
 {
     CFont* previous = dc->SelectObject(selected);
     if (oldFont == nullptr) oldFont = previous;
+    walk.Forget();
 }
 
 }  // namespace kiv_skin

@@ -1,7 +1,9 @@
 // The drawing state of one pass over rich-text runs, and the runs as the passes see them.
 #pragma once
 #include <afxwin.h>
+#include "kiv_skin/draw/text_walk.h"
 #include <string>
+#include <string_view>
 
 namespace kiv_skin {
 
@@ -12,6 +14,7 @@ struct DrawFormatText {
     int width = 0;      // units the run takes on the line; set by its handler
     RECT rect = {0, 0, 0, 0};  // where the drawing pass puts it
     int draw = 0;       // 0 while measuring, 1 while drawing; handlers that draw clear it
+    std::wstring_view wide;  // a text run's value in wide characters, converted once per call
 };
 
 // What the tags change in the caller's context, with what it held when the pass began: the
@@ -31,6 +34,7 @@ struct sDCStats {
     CFont* font = nullptr;      // the last font a font tag made; owned, made with the first
     CFont* oldFont = nullptr;   // what was selected before the state first selected a font
     int rowHeight = -1;
+    WalkWidths walk;            // the cut-text widths of the font now selected
 
     // A tag's colour, mixed with the initial background colour unless mixPercent is 100.
     COLORREF Mixed(COLORREF color) const;

@@ -1,5 +1,4 @@
 #include "kiv_skin/draw/rich_text_tags.h"
-#include "kiv_base/text.h"
 #include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/draw/scheme.h"
 #include "kiv_skin/module.h"
@@ -113,39 +112,42 @@ void Italic(sDCStats& s, DrawFormatText& run)
     });
 }
 
-CSize WideExtent(CDC* dc, const std::wstring& text)
+CSize WideExtent(CDC* dc, std::wstring_view text)
 {
     SIZE size = {0, 0};
-    ::GetTextExtentPoint32W(dc->m_hAttribDC, text.c_str(), static_cast<int>(text.size()), &size);
+    ::GetTextExtentPoint32W(dc->m_hAttribDC, text.data(), static_cast<int>(text.size()), &size);
     return CSize(size);
 }
 
 // Calls each(line) for every line of text, split at line feeds (a trailing one gives a last,
-// empty line); a text without line feeds is passed on as it is.
-template <class Each> void ForEachLine(const std::wstring& text, Each each)
+// empty line).
+template <class Each> void ForEachLine(std::wstring_view text, Each each)
 {
     size_t start = 0;
-    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring::npos; start = feed + 1)
+    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring_view::npos; start = feed + 1)
         each(text.substr(start, feed - start));
-    each(start == 0 ? text : text.substr(start));
+    each(text.substr(start));
 }
 
 // Text, line by line: the first line in the run's whole height, each further one a row lower.
-// The width is measured while measuring; the drawing pass has it in the run's rectangle.
+// The width is measured while measuring; the drawing pass has it in the run's rectangle, and
+// for a single line it is that line's whole width, measured in the same font.
 void Text(sDCStats& s, DrawFormatText& run)
 {
-    std::wstring text = kiv_base::text::AnsiToUtf(run.value);
+    std::wstring_view text = run.wide;
     if (!run.draw) {
         run.width = 0;
-        ForEachLine(text, [&](const std::wstring& line) { run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx); });
+        ForEachLine(text, [&](std::wstring_view line) { run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx); });
         return;
     }
     int rowHeight = s.rowHeight;
     if (rowHeight < 0) rowHeight = WideExtent(s.dc, text.substr(0, text.find(L'\n'))).cy;
+    bool oneLine = text.find(L'\n') == std::wstring_view::npos;
     CRect area(run.rect);
-    ForEachLine(text, [&](const std::wstring& line) {
-        int count = 0;
-        KivDraw::TextOutLimitWidth(s.dc, &area, line, count, CRect(0, 0, 0, 0), 0);
+    ForEachLine(text, [&](std::wstring_view line) {
+        int count = 0, length = static_cast<int>(line.size());
+        int whole = oneLine ? run.width : WideExtent(s.dc, line).cx;
+        CutText(s.dc, area, line.data(), length, whole, count, s.walk, 0);
         area.top += rowHeight;
         area.bottom = area.top + rowHeight;
     });
@@ -205,6 +207,8 @@ std::atomic<std::map<std::string, RichTextTag>*> g_tags{nullptr};
 void DestroyTags() { delete g_tags.exchange(nullptr); }
 
 }  // namespace
+
+RichTextTag RichTextTextTag() { return Text; }
 
 const std::map<std::string, RichTextTag>& RichTextTags()
 {
