@@ -202,8 +202,8 @@ void PanelByHand(CDC* target, int rows = kRows)
 
 // Where a caption's time goes: the raw calls the kit makes for it, each timed alone. Per text run
 // the kit measures it while measuring and draws it while drawing; the cut-text walk reads the
-// widths of the codes of all runs at once; per pass it reads and restores the context's colours,
-// mode and font, and sets the tags' colours.
+// widths of the codes of all runs at once; it reads the context's colours, mode and font once,
+// sets the tags' colours while drawing and puts back the text colour.
 void PrintCaptionProfile(HDC hdc, double caption)
 {
     SIZE size;
@@ -220,7 +220,7 @@ void PrintCaptionProfile(HDC hdc, double caption)
         SetBkMode(hdc, GetBkMode(hdc));
     });
     double colour = cost([&] { SetTextColor(hdc, GetTextColor(hdc)); });
-    double gdi = 3 * (extent + draw) + charWidths + 2 * state + 6 * colour;
+    double gdi = 3 * (extent + draw) + charWidths + state + 4 * colour;
     CDC* dc = CDC::FromHandle(hdc);
     CRect rect(0, 0, kWidth, kRowHeight);
     double empty = cost([&] { KivDraw::DrawRichText(dc, &rect, "", CRect(4, 2, 0, 0), 0, 100); });
@@ -233,9 +233,9 @@ void PrintCaptionProfile(HDC hdc, double caption)
     double scan = cost([&] { std::sscanf("FF", "%X", &hex); });
     std::printf("  one scheme colour look-up %.2f us, one hexadecimal scan %.2f us\n", lookup, scan);
     std::printf("  caption profile: 3 text extents %.1f us, 1 width read %.1f us, 3 text draws %.1f us,\n"
-                "  2 state saves and restores %.1f us, 6 colour sets %.1f us; the rest (parsing, tag and\n"
+                "  1 state save and restore %.1f us, 4 colour sets %.1f us; the rest (parsing, tag and\n"
                 "  scheme look-ups, conversions) %.1f us\n",
-                3 * extent, charWidths, 3 * draw, 2 * state, 6 * colour, caption - gdi);
+                3 * extent, charWidths, 3 * draw, state, 4 * colour, caption - gdi);
 }
 
 void Print(const char* what, const Comparison& c, const char* goal)

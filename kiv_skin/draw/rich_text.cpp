@@ -87,7 +87,8 @@ int StartX(UINT align, const CRect& inner, int total)
 
 }  // namespace
 
-// The drawing pass draws in the fonts the measuring pass measured in.
+// The drawing pass starts from the defaults the measuring pass found, which it put back, and
+// draws in the fonts the measuring pass measured in.
 DWORD KivDraw::DrawRichText(CDC* dc, const RECT* rect, int rows, const char* text, CRect margins, UINT, int percent)
 {
     CRect inner(rect->left + margins.left, rect->top + margins.top, rect->right - margins.right,
@@ -95,6 +96,7 @@ DWORD KivDraw::DrawRichText(CDC* dc, const RECT* rect, int rows, const char* tex
     int rowHeight = (rect->bottom - rect->top) / (rows < 1 ? 1 : rows);
 
     int total = 0;
+    ContextDefaults defaults;
     WalkWidths expected(dc);
     WideText wide(std::strlen(text));
     std::vector<Run> runs = Runs(text, wide, expected);
@@ -106,8 +108,9 @@ DWORD KivDraw::DrawRichText(CDC* dc, const RECT* rect, int rows, const char* tex
             Apply(measuring, run);
             total += run.format.width;
         }
+        defaults = measuring.Defaults();
     }
-    sDCStats drawing(dc);
+    sDCStats drawing(dc, defaults);
     drawing.walk = expected;
     Prepare(drawing, percent, rowHeight);
     int x = StartX(dc->GetTextAlign(), inner, total);

@@ -9,9 +9,28 @@
 namespace kiv_skin {
 namespace {
 
+// Plain hexadecimal digits, "0x" or "0X" allowed before them, as many as a COLORREF holds: read
+// here as "%X" reads them. Anything else (blanks, signs, trailing bytes, longer numbers) is
+// read by "%X" itself.
+bool ReadPlainHex(const std::string& value, COLORREF& color)
+{
+    size_t at = value.size() > 2 && value[0] == '0' && (value[1] == 'x' || value[1] == 'X') ? 2 : 0;
+    if (value.size() - at > 8) return false;
+    COLORREF read = 0;
+    for (size_t i = at; i < value.size(); ++i) {
+        char c = value[i];
+        int digit = c >= '0' && c <= '9' ? c - '0' : (c >= 'a' && c <= 'f' ? c - 'a' + 10 : (c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1));
+        if (digit < 0) return false;
+        read = read << 4 | COLORREF(digit);
+    }
+    color = read;
+    return true;
+}
+
 // A value read as "%X" reads: the colour's COLORREF value, "0x" accepted.
 bool ReadHex(const std::string& value, COLORREF& color)
 {
+    if (ReadPlainHex(value, color)) return true;
     unsigned int read = 0;
     if (std::sscanf(value.c_str(), "%X", &read) != 1) return false;
     color = read;
@@ -32,6 +51,7 @@ bool SchemeValue(const std::string& value, COLORREF& color)
 void SetInk(sDCStats& s, bool present, COLORREF color)
 {
     s.dc->SetTextColor(present ? s.Mixed(color) : s.textColor);
+    s.inkSet = true;
 }
 
 // An empty or unreadable background tag returns to the initial mode with the initial *text*
@@ -40,6 +60,7 @@ void SetBack(sDCStats& s, bool present, COLORREF color)
 {
     s.dc->SetBkMode(present ? OPAQUE : s.bkMode);
     s.dc->SetBkColor(present ? s.Mixed(color) : s.textColor);
+    s.backSet = true;
 }
 
 template <bool (*Read)(const std::string&, COLORREF&), void (*Set)(sDCStats&, bool, COLORREF)>
@@ -48,7 +69,9 @@ void ColorTag(sDCStats& s, DrawFormatText& run)
     run.width = 0;
     COLORREF color = 0;
     bool present = Read(run.value, color);
-    Set(s, present, color);
+    // Colours do not change widths: while measuring they are only looked up, unless the
+    // context's output half would keep them.
+    if (run.draw || !s.OneContext()) Set(s, present, color);
 }
 
 void SchemeFontTag(sDCStats& s, DrawFormatText& run)
