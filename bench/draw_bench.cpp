@@ -254,6 +254,45 @@ void PrintLoad()
     std::printf("machine load (1, 5, 15 min; /proc/loadavg): %s", load);
 }
 
+// Where a panel's time goes: each piece timed alone on the canvas, the kit's against the raw
+// calls of the hand-drawn panel (the prices' raw form makes its marks context once for 20).
+void PrintPanelProfile(DibCanvas& kit, DibCanvas& hand)
+{
+    CDC* dc = kit.dc();
+    HDC hdc = hand.dc()->m_hDC;
+    KivDraw draw;
+    auto cost = [](auto call) { return MedianMicroseconds(kRuns, 20, [&](int) { call(); }); };
+    double ulKit = cost([&] { for (int i = 0; i < kRows; ++i) draw.DrawUL(dc, 260, 30 + 20 * i, kPrices[i % 2], 1); });
+    double ulHand = cost([&] {
+        HDC marks = CreateCompatibleDC(hdc);
+        HGDIOBJ previous = SelectObject(marks, Scheme()->GetBitmap("KIV_MARK")->m_hObject);
+        for (int i = 0; i < kRows; ++i) PriceByHand(hdc, marks, 260, 30 + 20 * i, kPrices[i % 2]);
+        SelectObject(marks, previous);
+        DeleteDC(marks);
+    });
+    double arrow = cost([&] { draw.DrawArrow(dc, 20, 20, 3, RGB(255, 0, 0), 0, 1, false); });
+    double memoryDc = cost([&] { CMemoDC marks(dc, const_cast<CBitmap*>(Scheme()->GetBitmap("KIV_MARK"))); });
+    double pen = cost([&] {
+        CPen p;
+        p.CreatePen(PS_SOLID, 1, RGB(0, 0, 0));
+        CPen* previous = dc->SelectObject(&p);
+        dc->SelectObject(previous);
+    });
+    double captions = cost([&] { for (int i = 0; i < kRows; ++i) CaptionByKit(dc); });
+    double captionsHand = cost([&] { for (int i = 0; i < kRows; ++i) CaptionByHand(hdc); });
+    CRect all(0, 0, kWidth, PanelHeight(kRows));
+    double frame = cost([&] {
+        KivDraw::DrawPluginFrame(dc, &all);
+        PluginTitle(kTitle).Draw(dc, CRect(1, 1, kWidth - 1, kTop));
+    });
+    double axis = cost([&] {
+        KivDraw::DrawAxis(dc, 1, {10, 450}, {kWidth - 10, 450}, 0, 100, 5, "t", 0xFFFFFFFF, nullptr, 1, 12);
+    });
+    std::printf("  panel profile (us): 20 prices %.1f (raw %.1f; of them one mark %.1f, its memory context %.1f,\n"
+                "  an underline pen made and selected %.1f), 20 captions %.1f (raw %.1f), frame and title %.1f,\n"
+                "  axis %.1f\n", ulKit, ulHand, arrow, memoryDc, pen, captions, captionsHand, frame, axis);
+}
+
 // --- Growth -------------------------------------------------------------------------------------
 
 const char* const kGrowthTags[3] = {"<*sc=UPTEXT*>", "<*sc=EQUTEXT*>", "<*c=FF*>"};
@@ -410,6 +449,7 @@ int main()
     std::printf("panel pixels differing from raw GDI's: %d of %d\n", Differences(kit, hand), kWidth * PanelHeight(kRows));
     Print("panel repaint", Compare(kRuns, 20, [&](int) { PanelByKit(kit.dc()); }, [&](int) { PanelByHand(hand.dc()); }),
           "<= 1.3");
+    PrintPanelProfile(kit, hand);
     PrintSchemeSwitch(kit, hand);
     PrintCaptionGrowth();
     PrintPanelGrowth();
