@@ -276,6 +276,12 @@ void PrintPanelProfile(DibCanvas& kit, DibCanvas& hand)
         for (int i = 0; i < kRows; ++i) draw.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, dc->GetTextColor(), 0, 1, false);
     });
     double memoryDc = cost([&] { CMemoDC marks(dc, const_cast<CBitmap*>(Scheme()->GetBitmap("KIV_MARK"))); });
+    double rawContext = cost([&] {
+        HDC marks = CreateCompatibleDC(hdc);
+        HGDIOBJ previous = SelectObject(marks, Scheme()->GetBitmap("KIV_MARK")->m_hObject);
+        SelectObject(marks, previous);
+        DeleteDC(marks);
+    });
     double pen = cost([&] {
         CPen p;
         p.CreatePen(PS_SOLID, 1, RGB(0, 0, 0));
@@ -293,9 +299,9 @@ void PrintPanelProfile(DibCanvas& kit, DibCanvas& hand)
         KivDraw::DrawAxis(dc, 1, {10, 450}, {kWidth - 10, 450}, 0, 100, 5, "t", 0xFFFFFFFF, nullptr, 1, 12);
     });
     std::printf("  panel profile (us): 20 prices %.1f (raw %.1f; without their marks %.1f; their 20 marks alone %.1f;\n"
-                "  one mark %.1f, its memory context %.1f; an underline pen made and selected %.1f), 20 captions %.1f\n"
-                "  (raw %.1f), frame and title %.1f, axis %.1f\n", ulKit, ulHand, plain, arrows, arrow, memoryDc, pen,
-                captions, captionsHand, frame, axis);
+                "  one mark %.1f, its memory context %.1f (raw CreateCompatibleDC, select, DeleteDC %.1f); an underline\n"
+                "  pen made and selected %.1f), 20 captions %.1f (raw %.1f), frame and title %.1f, axis %.1f\n", ulKit,
+                ulHand, plain, arrows, arrow, memoryDc, rawContext, pen, captions, captionsHand, frame, axis);
 }
 
 // --- Growth -------------------------------------------------------------------------------------
