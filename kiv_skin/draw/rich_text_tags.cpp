@@ -9,17 +9,25 @@
 namespace kiv_skin {
 namespace {
 
+// The value of a hexadecimal digit, or -1.
+int HexDigit(char c)
+{
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
 // Plain hexadecimal digits, "0x" or "0X" allowed before them, as many as a COLORREF holds: read
 // here as "%X" reads them. Anything else (blanks, signs, trailing bytes, longer numbers) is
 // read by "%X" itself.
 bool ReadPlainHex(const std::string& value, COLORREF& color)
 {
     size_t at = value.size() > 2 && value[0] == '0' && (value[1] == 'x' || value[1] == 'X') ? 2 : 0;
-    if (value.size() - at > 8) return false;
+    if (value.size() == at || value.size() - at > 8) return false;
     COLORREF read = 0;
     for (size_t i = at; i < value.size(); ++i) {
-        char c = value[i];
-        int digit = c >= '0' && c <= '9' ? c - '0' : (c >= 'a' && c <= 'f' ? c - 'a' + 10 : (c >= 'A' && c <= 'F' ? c - 'A' + 10 : -1));
+        int digit = HexDigit(value[i]);
         if (digit < 0) return false;
         read = read << 4 | COLORREF(digit);
     }
@@ -160,7 +168,9 @@ void Text(sDCStats& s, DrawFormatText& run)
     std::wstring_view text = run.wide;
     if (!run.draw) {
         run.width = 0;
-        ForEachLine(text, [&](std::wstring_view line) { run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx); });
+        ForEachLine(text, [&](std::wstring_view line) {
+            run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx);
+        });
         return;
     }
     int rowHeight = s.rowHeight;
