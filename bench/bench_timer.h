@@ -36,6 +36,7 @@ double MedianMicroseconds(int runs, int callsPerRun, Work work)
 
 struct Comparison {
     double subject = 0, baseline = 0;  // median microseconds per call
+    double subjectLow = 0, subjectHigh = 0;  // the subject's 10th and 90th percentiles
     double ratio = 0;                  // median of the per-run ratios subject / baseline
     double ratioLow = 0, ratioHigh = 0;  // their 10th and 90th percentiles
 };
@@ -54,6 +55,8 @@ Comparison CompareTimes(int runs, TimeSubject timeSubject, TimeBaseline timeBase
     }
     Comparison c;
     c.subject = Quantile(subjects, 0.5);
+    c.subjectLow = Quantile(subjects, 0.1);
+    c.subjectHigh = Quantile(subjects, 0.9);
     c.baseline = Quantile(baselines, 0.5);
     c.ratio = Quantile(ratios, 0.5);
     c.ratioLow = Quantile(ratios, 0.1);

@@ -3,21 +3,64 @@
 #include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/draw/rich_text_markup.h"
 #include "kiv_skin/draw/rich_text_tags.h"
+#include <cstring>
+#include <string_view>
 #include <vector>
 
 namespace kiv_skin {
 namespace {
 
-std::vector<DrawFormatText> Runs(const char* text)
-{
-    std::vector<MarkupRun> parsed = ParseRichTextMarkup(text);
-    std::vector<DrawFormatText> runs;
-    runs.reserve(parsed.size());
-    for (MarkupRun& run : parsed) {
-        runs.emplace_back();
-        runs.back().name.swap(run.name);
-        runs.back().value.swap(run.value);
+// A run with its handler, looked up once for both passes (null for an unknown name).
+struct Run {
+    DrawFormatText format;
+    RichTextTag tag;
+};
+
+// Room for the wide text of a call's text runs: a short caption's fits on the stack.
+class WideText {
+public:
+    explicit WideText(size_t bytes)
+    {
+        if (bytes > kLocal) m_heap.resize(bytes);
+        m_next = bytes > kLocal ? m_heap.data() : m_local;
     }
+    // The ANSI text in wide characters; never more characters than bytes.
+    std::wstring_view Convert(std::string_view ansi)
+    {
+        int n = ansi.empty() ? 0 : ::MultiByteToWideChar(CP_ACP, 0, ansi.data(), static_cast<int>(ansi.size()), m_next,
+                                                          static_cast<int>(ansi.size()));
+        std::wstring_view wide(m_next, n > 0 ? n : 0);
+        m_next += wide.size();
+        return wide;
+    }
+
+private:
+    static const size_t kLocal = 256;
+    wchar_t m_local[kLocal];
+    std::vector<wchar_t> m_heap;
+    wchar_t* m_next;
+};
+
+// The runs of text, each with its handler; text runs also in wide characters, which the
+// drawing pass's cut-text walk is told to expect.
+std::vector<Run> Runs(const char* text, WideText& wide, WalkWidths& walk)
+{
+    const auto& tags = RichTextTags();
+    RichTextTag plain = RichTextTextTag();
+    std::vector<Run> runs;
+    runs.reserve(8);  // a typical caption's runs, without growing
+    ForEachMarkupRun(text, [&](std::string_view name, std::string_view value) {
+        runs.emplace_back();
+        Run& run = runs.back();
+        run.format.name.assign(name);
+        run.format.value.assign(value);
+        auto tag = tags.find(run.format.name);
+        run.tag = tag == tags.end() ? nullptr : tag->second;
+        if (run.tag == plain) {
+            run.format.wide = wide.Convert(value);
+            walk.Expect(run.format.wide.data(), static_cast<int>(run.format.wide.size()));
+        }
+    });
     return runs;
 }
 
@@ -27,11 +70,9 @@ void Prepare(sDCStats& state, int percent, int rowHeight)
     state.rowHeight = rowHeight;
 }
 
-void Apply(sDCStats& state, DrawFormatText& run)
+void Apply(sDCStats& state, Run& run)
 {
-    const auto& tags = RichTextTags();
-    auto tag = tags.find(run.name);
-    if (tag != tags.end()) tag->second(state, run);
+    if (run.tag) run.tag(state, run.format);
 }
 
 // Where the line starts: only exactly right (2) or centre (6) alignment moves it off the left
@@ -46,31 +87,39 @@ int StartX(UINT align, const CRect& inner, int total)
 
 }  // namespace
 
+// The drawing pass starts from the defaults the measuring pass found, which it put back, and
+// draws in the fonts the measuring pass measured in.
 DWORD KivDraw::DrawRichText(CDC* dc, const RECT* rect, int rows, const char* text, CRect margins, UINT, int percent)
 {
-    std::vector<DrawFormatText> runs = Runs(text);
     CRect inner(rect->left + margins.left, rect->top + margins.top, rect->right - margins.right,
                 rect->bottom - margins.bottom);
     int rowHeight = (rect->bottom - rect->top) / (rows < 1 ? 1 : rows);
 
     int total = 0;
+    ContextDefaults defaults;
+    WalkWidths expected(dc);
+    WideText wide(std::strlen(text));
+    std::vector<Run> runs = Runs(text, wide, expected);
     {
         sDCStats measuring(dc);
         Prepare(measuring, percent, rowHeight);
-        for (DrawFormatText& run : runs) {
-            run.draw = 0;
+        for (Run& run : runs) {
+            run.format.draw = 0;
             Apply(measuring, run);
-            total += run.width;
+            total += run.format.width;
         }
+        defaults = measuring.Defaults();
     }
-    sDCStats drawing(dc);
+    sDCStats drawing(dc, defaults);
+    drawing.walk = expected;
     Prepare(drawing, percent, rowHeight);
     int x = StartX(dc->GetTextAlign(), inner, total);
-    for (DrawFormatText& run : runs) {
-        run.rect = {x, inner.top, x + run.width, inner.bottom};
-        run.draw = 1;
+    for (Run& run : runs) {
+        DrawFormatText& format = run.format;
+        format.rect = {x, inner.top, x + format.width, inner.bottom};
+        format.draw = 1;
         Apply(drawing, run);
-        x += run.width;
+        x += format.width;
     }
     return 0;
 }

@@ -5,17 +5,27 @@ namespace kiv_skin {
 
 sDCStats::sDCStats(CDC* pDC)
     : dc(pDC), textColor(pDC->GetTextColor()), bkColor(pDC->GetBkColor()), bkMode(pDC->GetBkMode()),
-      logFont()
+      logFont(), walk(pDC)
 {
     ::GetObjectA(::GetCurrentObject(pDC->m_hAttribDC, OBJ_FONT), sizeof(LOGFONTA), &logFont);
 }
 
+sDCStats::sDCStats(CDC* pDC, const ContextDefaults& defaults)
+    : dc(pDC), textColor(defaults.textColor), bkColor(defaults.bkColor), bkMode(defaults.bkMode),
+      logFont(defaults.logFont), walk(pDC)
+{
+}
+
+// Puts back the font, then the colours and mode; what no tag set is still as it was.
 sDCStats::~sDCStats()
 {
     if (oldFont) dc->SelectObject(oldFont);
-    dc->SetTextColor(textColor);
-    dc->SetBkColor(bkColor);
-    dc->SetBkMode(bkMode);
+    bool same = OneContext();
+    if (inkSet || !same) dc->SetTextColor(textColor);
+    if (backSet || !same) {
+        dc->SetBkColor(bkColor);
+        dc->SetBkMode(bkMode);
+    }
     delete font;
 }
 
@@ -28,6 +38,7 @@ void sDCStats::Select(CFont* selected)
 {
     CFont* previous = dc->SelectObject(selected);
     if (oldFont == nullptr) oldFont = previous;
+    walk.Forget();
 }
 
 }  // namespace kiv_skin

@@ -1,5 +1,4 @@
 #include "kiv_skin/draw/rich_text_tags.h"
-#include "kiv_base/text.h"
 #include "kiv_skin/draw/kiv_draw.h"
 #include "kiv_skin/draw/scheme.h"
 #include "kiv_skin/module.h"
@@ -10,9 +9,36 @@
 namespace kiv_skin {
 namespace {
 
+// The value of a hexadecimal digit, or -1.
+int HexDigit(char c)
+{
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
+// Plain hexadecimal digits, "0x" or "0X" allowed before them, as many as a COLORREF holds: read
+// here as "%X" reads them. Anything else (blanks, signs, trailing bytes, longer numbers) is
+// read by "%X" itself.
+bool ReadPlainHex(const std::string& value, COLORREF& color)
+{
+    size_t at = value.size() > 2 && value[0] == '0' && (value[1] == 'x' || value[1] == 'X') ? 2 : 0;
+    if (value.size() == at || value.size() - at > 8) return false;
+    COLORREF read = 0;
+    for (size_t i = at; i < value.size(); ++i) {
+        int digit = HexDigit(value[i]);
+        if (digit < 0) return false;
+        read = read << 4 | COLORREF(digit);
+    }
+    color = read;
+    return true;
+}
+
 // A value read as "%X" reads: the colour's COLORREF value, "0x" accepted.
 bool ReadHex(const std::string& value, COLORREF& color)
 {
+    if (ReadPlainHex(value, color)) return true;
     unsigned int read = 0;
     if (std::sscanf(value.c_str(), "%X", &read) != 1) return false;
     color = read;
@@ -33,6 +59,7 @@ bool SchemeValue(const std::string& value, COLORREF& color)
 void SetInk(sDCStats& s, bool present, COLORREF color)
 {
     s.dc->SetTextColor(present ? s.Mixed(color) : s.textColor);
+    s.inkSet = true;
 }
 
 // An empty or unreadable background tag returns to the initial mode with the initial *text*
@@ -41,6 +68,7 @@ void SetBack(sDCStats& s, bool present, COLORREF color)
 {
     s.dc->SetBkMode(present ? OPAQUE : s.bkMode);
     s.dc->SetBkColor(present ? s.Mixed(color) : s.textColor);
+    s.backSet = true;
 }
 
 template <bool (*Read)(const std::string&, COLORREF&), void (*Set)(sDCStats&, bool, COLORREF)>
@@ -49,7 +77,9 @@ void ColorTag(sDCStats& s, DrawFormatText& run)
     run.width = 0;
     COLORREF color = 0;
     bool present = Read(run.value, color);
-    Set(s, present, color);
+    // Colours do not change widths: while measuring they are only looked up, unless the
+    // context's output half would keep them.
+    if (run.draw || !s.OneContext()) Set(s, present, color);
 }
 
 void SchemeFontTag(sDCStats& s, DrawFormatText& run)
@@ -113,39 +143,44 @@ void Italic(sDCStats& s, DrawFormatText& run)
     });
 }
 
-CSize WideExtent(CDC* dc, const std::wstring& text)
+CSize WideExtent(CDC* dc, std::wstring_view text)
 {
     SIZE size = {0, 0};
-    ::GetTextExtentPoint32W(dc->m_hAttribDC, text.c_str(), static_cast<int>(text.size()), &size);
+    ::GetTextExtentPoint32W(dc->m_hAttribDC, text.data(), static_cast<int>(text.size()), &size);
     return CSize(size);
 }
 
 // Calls each(line) for every line of text, split at line feeds (a trailing one gives a last,
-// empty line); a text without line feeds is passed on as it is.
-template <class Each> void ForEachLine(const std::wstring& text, Each each)
+// empty line).
+template <class Each> void ForEachLine(std::wstring_view text, Each each)
 {
     size_t start = 0;
-    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring::npos; start = feed + 1)
+    for (size_t feed; (feed = text.find(L'\n', start)) != std::wstring_view::npos; start = feed + 1)
         each(text.substr(start, feed - start));
-    each(start == 0 ? text : text.substr(start));
+    each(text.substr(start));
 }
 
 // Text, line by line: the first line in the run's whole height, each further one a row lower.
-// The width is measured while measuring; the drawing pass has it in the run's rectangle.
+// The width is measured while measuring; the drawing pass has it in the run's rectangle, and
+// for a single line it is that line's whole width, measured in the same font.
 void Text(sDCStats& s, DrawFormatText& run)
 {
-    std::wstring text = kiv_base::text::AnsiToUtf(run.value);
+    std::wstring_view text = run.wide;
     if (!run.draw) {
         run.width = 0;
-        ForEachLine(text, [&](const std::wstring& line) { run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx); });
+        ForEachLine(text, [&](std::wstring_view line) {
+            run.width = std::max<int>(run.width, WideExtent(s.dc, line).cx);
+        });
         return;
     }
     int rowHeight = s.rowHeight;
     if (rowHeight < 0) rowHeight = WideExtent(s.dc, text.substr(0, text.find(L'\n'))).cy;
+    bool oneLine = text.find(L'\n') == std::wstring_view::npos;
     CRect area(run.rect);
-    ForEachLine(text, [&](const std::wstring& line) {
-        int count = 0;
-        KivDraw::TextOutLimitWidth(s.dc, &area, line, count, CRect(0, 0, 0, 0), 0);
+    ForEachLine(text, [&](std::wstring_view line) {
+        int count = 0, length = static_cast<int>(line.size());
+        int whole = oneLine ? run.width : WideExtent(s.dc, line).cx;
+        CutText(s.dc, area, line.data(), length, whole, count, s.walk, 0);
         area.top += rowHeight;
         area.bottom = area.top + rowHeight;
     });
@@ -205,6 +240,8 @@ std::atomic<std::map<std::string, RichTextTag>*> g_tags{nullptr};
 void DestroyTags() { delete g_tags.exchange(nullptr); }
 
 }  // namespace
+
+RichTextTag RichTextTextTag() { return Text; }
 
 const std::map<std::string, RichTextTag>& RichTextTags()
 {

@@ -12,4 +12,7 @@ typedef void (*RichTextTag)(sDCStats& state, DrawFormatText& run);
 // once, on first use, and kept until the library unloads.
 const std::map<std::string, RichTextTag>& RichTextTags();
 
+// The handler of plain text ("text", "t"), whose runs need their value in wide characters.
+RichTextTag RichTextTextTag();
+
 }  // namespace kiv_skin

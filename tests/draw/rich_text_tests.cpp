@@ -292,6 +292,35 @@ TEST_F(TestSchemeRichText, ProportionalTextIsWalkedAsCutTextIs)
     ::DeleteObject(proportional);
 }
 
+TEST_F(TestSchemeRichText, WalkAfterAFontTagUsesTheNewFontsWidths)
+{
+    // The walk's widths are read once for the runs of one font: after a tag selects another font,
+    // "jjjj" is walked by the proportional face's narrow "i" and drawn whole, where the fixed-pitch
+    // widths read for "abc" would cut it after two characters.
+    const char* face = "WenQuanYi Zen Hei";
+    HFONT proportional = RichSheet::MakeFont(16, FW_NORMAL, 0, 0, face);
+    RichSheet sheet, byHand;
+    sheet.Draw((std::string("abc<*f=") + face + "*>jjjj").c_str());
+    auto walk = [&](HFONT font) {
+        int widths[128] = {};
+        HGDIOBJ previous = ::SelectObject(byHand.dc()->m_hDC, font);
+        ::GetCharWidthA(byHand.dc()->m_hDC, 0, 127, widths);
+        ::SelectObject(byHand.dc()->m_hDC, previous);
+        int available = byHand.Width(L"jjjj", proportional), walked = 0, count = 0;
+        for (; count < 4 && walked < available; ++count) walked += widths['j' - 1];
+        return count;
+    };
+    HFONT fixed = RichSheet::MakeFont(16, FW_NORMAL);
+    int count = walk(proportional);
+    EXPECT_NE(count, walk(fixed)) << "the faces must walk \"jjjj\" differently";
+    byHand.ByHand(0, 0, 30, {{L"abc", kInitialInk, nullptr}});
+    byHand.ByHand(byHand.Width(L"abc"), 0, 30, {{std::wstring(L"jjjj").substr(0, count), kInitialInk, proportional}});
+    EXPECT_TRUE(SamePixels(sheet, byHand));
+    EXPECT_TRUE(sheet.check.Unchanged());
+    ::DeleteObject(fixed);
+    ::DeleteObject(proportional);
+}
+
 TEST_F(TestSchemeRichText, WideLineStartsAtTheLeftWhateverTheAlignment)
 {
     RichSheet sheet(16, FW_NORMAL, 60, 30), byHand(16, FW_NORMAL, 60, 30);
