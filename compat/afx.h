@@ -2,7 +2,7 @@
 // DECLARE_DYNAMIC and IMPLEMENT_DYNAMIC give a class, in the layout of a shared-MFC build
 // (_AFXDLL), where a class names its base through _GetBaseClass.
 #pragma once
-#include <windows.h>
+#include "afxv_w32.h"
 
 class CObject;
 

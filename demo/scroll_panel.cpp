@@ -48,10 +48,10 @@ void ScrollPanel::Configure()
     m_list = CRect(inside.left, inside.top, inside.right - kBarRoom, inside.bottom - kBarRoom);
     CRect rowsArea(inside.left, inside.top + kListRowHeight + 1, inside.right - 1, inside.bottom - kBarRoom - 1);
     m_rows->SetScrollInfo(rowsArea, kListRowHeight, kListRowCount, 0);
-    int visibleColumns = std::max((m_list.Width() - kFixedColumnsWidth) / kPriceColumnWidth, 1);
+    int visibleColumns = (std::max)((m_list.Width() - kFixedColumnsWidth) / kPriceColumnWidth, 1);
     CRect columnsArea(inside.left + kFixedColumnsWidth + 1, inside.top, inside.right - kBarRoom - 1, inside.bottom - 1);
     // The bar counts its page in its area's height, whatever its orientation.
-    m_columns->SetScrollInfo(columnsArea, std::max(columnsArea.Height() / visibleColumns, 1), kPriceColumnCount, 0);
+    m_columns->SetScrollInfo(columnsArea, (std::max)(columnsArea.Height() / visibleColumns, 1), kPriceColumnCount, 0);
 }
 
 void ScrollPanel::Paint(CDC* dc)
