@@ -101,7 +101,7 @@ void BenchLoad(int count, bool sorted)
     if (sorted) std::sort(records.begin(), records.end());
     std::string bytes = FileOf(records);
     PackageFile file("kiv_bench_" + std::to_string(GetCurrentProcessId()), bytes);
-    int calls = std::max(2, 200000 / count);
+    int calls = (std::max)(2, 200000 / count);
     // Both start every call from a plug-in's state at start-up: no catalogue and no file image
     // held. Loads and reads repeated back to back would meet the heap in different states: a
     // block freed at the end of the heap is decommitted, one freed inside it stays warm.

@@ -2,9 +2,13 @@
 // DECLARE_DYNAMIC and IMPLEMENT_DYNAMIC give a class, in the layout of a shared-MFC build
 // (_AFXDLL), where a class names its base through _GetBaseClass.
 #pragma once
-#include <windows.h>
+#include "afxv_w32.h"
+
+#define AFX_CDECL __cdecl
 
 class CObject;
+class CArchive;
+class CDumpContext;
 
 struct CRuntimeClass {
     LPCSTR m_lpszClassName;
@@ -55,6 +59,18 @@ public:
     virtual ~CObject() = default;
 
     BOOL IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
+    // Only classes declared serializable (a schema other than 0xFFFF) are.
+    BOOL IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
+    // No archives or dump contexts here: the base class's forms do nothing, as MFC's release
+    // build does.
+    virtual void Serialize(CArchive& ar) { (void)ar; }
+    virtual void AssertValid() const {}
+    virtual void Dump(CDumpContext& dc) const { (void)dc; }
+
+    void* PASCAL operator new(size_t nSize) { return ::operator new(nSize); }
+    void* PASCAL operator new(size_t, void* p) { return p; }
+    void PASCAL operator delete(void* p) { ::operator delete(p); }
+    void PASCAL operator delete(void*, void*) {}
 
 protected:
     CObject() = default;

@@ -7,6 +7,10 @@
 #include "afxstr.h"
 #include "afxtypes.h"
 
+class CWnd;
+class CRgn;
+class CPalette;
+
 class CDC;
 inline CHandleMap<CDC, HDC>* afxMapHDC();
 
@@ -183,7 +187,66 @@ public:
     }
     int IntersectClipRect(LPCRECT r) { return IntersectClipRect(r->left, r->top, r->right, r->bottom); }
 
+    // Mapping modes and origins, on both handles; each answers the previous value.
+    virtual int SetMapMode(int nMapMode) { return SetBoth(::SetMapMode, nMapMode, 0); }
+    virtual CPoint SetViewportOrg(int x, int y) { return PointOnBoth(::SetViewportOrgEx, x, y); }
+    virtual CPoint OffsetViewportOrg(int nWidth, int nHeight) { return PointOnBoth(::OffsetViewportOrgEx, nWidth, nHeight); }
+    virtual CSize SetViewportExt(int cx, int cy) { return SizeOnBoth(::SetViewportExtEx, cx, cy); }
+    virtual CSize SetWindowExt(int cx, int cy) { return SizeOnBoth(::SetWindowExtEx, cx, cy); }
+    virtual CSize ScaleViewportExt(int xNum, int xDenom, int yNum, int yDenom)
+    {
+        return ScaleOnBoth(::ScaleViewportExtEx, xNum, xDenom, yNum, yDenom);
+    }
+    virtual CSize ScaleWindowExt(int xNum, int xDenom, int yNum, int yDenom)
+    {
+        return ScaleOnBoth(::ScaleWindowExtEx, xNum, xDenom, yNum, yDenom);
+    }
+    virtual int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hDC, lpRect); }
+    virtual CSize TabbedTextOut(int x, int y, LPCSTR lpszString, int nCount, int nTabPositions,
+                                LPINT lpnTabStopPositions, int nTabOrigin)
+    {
+        LONG extent = ::TabbedTextOutA(m_hDC, x, y, lpszString, nCount, nTabPositions, lpnTabStopPositions, nTabOrigin);
+        return CSize(LOWORD(extent), HIWORD(extent));
+    }
+    virtual int DrawTextEx(LPSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat, LPDRAWTEXTPARAMS lpDTParams)
+    {
+        return ::DrawTextExA(m_hDC, lpszString, nCount, lpRect, nFormat, lpDTParams);
+    }
+    virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData, int nCount,
+                            int x, int y, int nWidth, int nHeight)
+    {
+        HBRUSH brush = pBrush ? static_cast<HBRUSH>(pBrush->GetSafeHandle()) : nullptr;
+        return ::GrayStringA(m_hDC, brush, lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
+    }
+    virtual int Escape(int nEscape, int nCount, LPCSTR lpszInData, LPVOID lpOutData)
+    {
+        return ::Escape(m_hDC, nEscape, nCount, lpszInData, lpOutData);
+    }
+
+#include "afxdc_members_.h"
+
 private:
+    template <class Fn> CPoint PointOnBoth(Fn fn, int x, int y)
+    {
+        POINT old = {0, 0};
+        if (m_hDC != nullptr && m_hDC != m_hAttribDC) fn(m_hDC, x, y, &old);
+        if (m_hAttribDC != nullptr) fn(m_hAttribDC, x, y, &old);
+        return CPoint(old);
+    }
+    template <class Fn> CSize SizeOnBoth(Fn fn, int cx, int cy)
+    {
+        SIZE old = {0, 0};
+        if (m_hDC != nullptr && m_hDC != m_hAttribDC) fn(m_hDC, cx, cy, &old);
+        if (m_hAttribDC != nullptr) fn(m_hAttribDC, cx, cy, &old);
+        return CSize(old);
+    }
+    template <class Fn> CSize ScaleOnBoth(Fn fn, int xNum, int xDenom, int yNum, int yDenom)
+    {
+        SIZE old = {0, 0};
+        if (m_hDC != nullptr && m_hDC != m_hAttribDC) fn(m_hDC, xNum, xDenom, yNum, yDenom, &old);
+        if (m_hAttribDC != nullptr) fn(m_hAttribDC, xNum, xDenom, yNum, yDenom, &old);
+        return CSize(old);
+    }
     HGDIOBJ SelectBoth(HGDIOBJ h)
     {
         HGDIOBJ old = nullptr;

@@ -9,8 +9,49 @@ inline INT_PTR CALLBACK AfxDlgProc(HWND hWnd, UINT message, WPARAM wParam, LPARA
 
 class CDialog : public CWnd {
 public:
-    CDialog(UINT nIDTemplate, CWnd* pParentWnd = NULL)
+    CDialog();
+    explicit CDialog(LPCSTR lpszTemplateName, CWnd* pParentWnd = NULL)
+        : m_lpszTemplateName(lpszTemplateName), m_pParentWnd(pParentWnd) {}
+    explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = NULL)
         : m_lpszTemplateName(MAKEINTRESOURCEA(nIDTemplate)), m_pParentWnd(pParentWnd) {}
+
+    // A modeless dialog from the template in the module that holds it.
+    virtual BOOL Create(LPCSTR lpszTemplateName, CWnd* pParentWnd = NULL)
+    {
+        HINSTANCE module = AfxFindResourceHandle(lpszTemplateName, RT_DIALOG);
+        HRSRC found = ::FindResourceA(module, lpszTemplateName, RT_DIALOG);
+        HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
+        return loaded != nullptr && CreateIndirect(loaded, pParentWnd);
+    }
+    virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = NULL)
+    {
+        return Create(MAKEINTRESOURCEA(nIDTemplate), pParentWnd);
+    }
+    virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = NULL, void* lpDialogInit = NULL)
+    {
+        (void)lpDialogInit;
+        m_pParentWnd = pParentWnd;
+        HINSTANCE module = AfxGetResourceHandle();
+        return ::CreateDialogIndirectParamA(module, lpDialogTemplate, pParentWnd->GetSafeHwnd(), &AfxDlgProc,
+                                            reinterpret_cast<LPARAM>(this)) != nullptr;
+    }
+    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = NULL)
+    {
+        return CreateIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(hDialogTemplate)), pParentWnd);
+    }
+    // No font of its own: the dialog keeps the template's.
+    virtual void OnSetFont(CFont* pFont) { (void)pFont; }
+
+    // Declared only (see the README).
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = NULL, void* lpDialogInit = NULL);
+    BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = NULL);
+    DWORD GetDefID() const;
+    void SetDefID(UINT nID);
+    void GotoDlgCtrl(CWnd* pWndCtrl);
+    void MapDialogRect(LPRECT lpRect) const;
+    void NextDlgCtrl() const;
+    void PrevDlgCtrl() const;
+    void SetHelpID(UINT nIDR);
 
     // Runs the dialog from the template in the module that holds it (AfxFindResourceHandle),
     // owned by the parent or else by the active window. Answers EndDialog's result, or -1 when

@@ -113,8 +113,39 @@ inline const AFX_MSGMAP_ENTRY* AfxFindMessageEntry(const AFX_MSGMAP_ENTRY* lpEnt
 }
 
 // The root of the classes that handle messages and commands.
+class CTypeLibCache;
+
 class CCmdTarget : public CObject {
 public:
+    CCmdTarget() = default;
+
+    // Automation, OLE verbs and the wait cursor; declared only (see the README).
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    void RestoreWaitCursor();
+    BOOL DoOleVerb(LONG iVerb, LPMSG lpMsg, HWND hWndParent, LPCRECT lpRect);
+    BOOL EnumOleVerbs(LPENUMOLEVERB* ppenumOleVerb);
+    void EnableAutomation();
+    void EnableConnections();
+    void EnableTypeLib();
+    static CCmdTarget* PASCAL FromIDispatch(LPDISPATCH lpDispatch);
+    LPDISPATCH GetIDispatch(BOOL bAddRef);
+    HRESULT GetTypeInfoOfGuid(LCID lcid, const GUID& guid, LPTYPEINFO* ppTypeInfo);
+    BOOL IsResultExpected();
+
+    // No automation here: no dispatch interface, type library or type information.
+    virtual BOOL GetDispatchIID(IID* pIID) { (void)pIID; return FALSE; }
+    virtual UINT GetTypeInfoCount() { return 0; }
+    virtual CTypeLibCache* GetTypeLibCache() { return NULL; }
+    virtual HRESULT GetTypeLib(LCID lcid, LPTYPELIB* ppTypeLib)
+    {
+        (void)lcid, (void)ppTypeLib;
+        return TYPE_E_CANTLOADLIBRARY;
+    }
+    virtual BOOL IsInvokeAllowed(DISPID dispid) { (void)dispid; return TRUE; }
+    // Called when the last reference of an automation object goes: deletes the object.
+    virtual void OnFinalRelease() { delete this; }
+
     // Calls the handler of command nID with notification nCode from this class's map or a
     // base's; with pHandlerInfo, names the handler instead of calling it.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)

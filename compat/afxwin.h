@@ -1,7 +1,7 @@
 // The part of MFC's <afxwin.h> that kiv_skin uses, for toolchains without MFC.
 // Every class and member here exists in MFC with the same signature and behaviour.
 #pragma once
-#include <windows.h>
+#include "afxv_w32.h"
 #include "afx.h"
 #include "afxexcept.h"
 #include "afxstr.h"

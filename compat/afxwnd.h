@@ -3,8 +3,22 @@
 #pragma once
 #include "afxdc.h"
 #include "afxmsg_.h"
+#include <commctrl.h>
+
+// winuser.h's two-argument macro would swallow CWnd::GetNextWindow.
+#undef GetNextWindow
 
 class CWnd;
+class CMenu;
+class CScrollBar;
+class CListBox;
+class CDataExchange;
+class CRgn;
+class CPalette;
+class CFile;
+class CFrameWnd;
+class CCreateContext;
+class COleControlSite;
 inline CHandleMap<CWnd, HWND>* afxMapHWND();
 inline LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 inline LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
@@ -126,6 +140,121 @@ public:
         return &message;
     }
 
+    // Overridables. The layer creates no windows and has no help, tool tips, accessibility,
+    // touch or ActiveX support of its own: these answer failure or nothing, as noted in the
+    // README, so that derived classes override them as under MFC.
+    virtual BOOL Create(LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                        CWnd* pParentWnd, UINT nID, CCreateContext* pContext = NULL)
+    {
+        (void)pContext;
+        return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    }
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle, int x,
+                          int y, int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = NULL)
+    {
+        CREATESTRUCT cs = {lpParam, nullptr, nIDorHMenu, hWndParent, nHeight, nWidth, y, x,
+                            static_cast<LONG>(dwStyle), lpszWindowName, lpszClassName, dwExStyle};
+        if (!PreCreateWindow(cs)) return FALSE;
+        HWND hWnd = ::CreateWindowExA(cs.dwExStyle, cs.lpszClass, cs.lpszName, cs.style, cs.x, cs.y, cs.cx,
+                                      cs.cy, cs.hwndParent, cs.hMenu, cs.hInstance, cs.lpCreateParams);
+        return hWnd != nullptr && SubclassWindow(hWnd);
+    }
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCSTR lpszClassName, LPCSTR lpszWindowName, DWORD dwStyle,
+                          const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = NULL)
+    {
+        return CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
+                        rect.right - rect.left, rect.bottom - rect.top, pParentWnd->GetSafeHwnd(),
+                        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), lpParam);
+    }
+    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_STYLE)); }
+    DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLongA(m_hWnd, GWL_EXSTYLE)); }
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs) { (void)cs; return TRUE; }
+    virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder)
+    {
+        DWORD exStyle = nAdjustType == adjustBorder ? GetExStyle() & ~WS_EX_CLIENTEDGE : GetExStyle();
+        ::AdjustWindowRectEx(lpClientRect, GetStyle(), FALSE, exStyle);
+    }
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const { (void)point; (void)pTI; return -1; }
+    virtual CScrollBar* GetScrollBarCtrl(int nBar) const { (void)nBar; return NULL; }
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT) { (void)dwData; (void)nCmd; }
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F) { (void)dwData; (void)nCmd; }
+    virtual BOOL ContinueModal() { return FALSE; }
+    virtual void EndModalLoop(int nResult) { (void)nResult; }
+    virtual BOOL OnAmbientProperty(COleControlSite* pSite, DISPID dispid, VARIANT* pvar)
+    {
+        (void)pSite, (void)dispid, (void)pvar;
+        return FALSE;
+    }
+    virtual void PreSubclassWindow() {}
+    virtual BOOL PreTranslateMessage(MSG* pMsg) { (void)pMsg; return FALSE; }
+    virtual HRESULT get_accParent(IDispatch** ppdispParent) { (void)ppdispParent; return E_NOTIMPL; }
+    virtual HRESULT get_accChildCount(long* pcountChildren) { (void)pcountChildren; return E_NOTIMPL; }
+    virtual HRESULT get_accChild(VARIANT varChild, IDispatch** ppdispChild) { (void)varChild, (void)ppdispChild; return E_NOTIMPL; }
+    virtual HRESULT get_accName(VARIANT varChild, BSTR* pszName) { (void)varChild, (void)pszName; return E_NOTIMPL; }
+    virtual HRESULT get_accValue(VARIANT varChild, BSTR* pszValue) { (void)varChild, (void)pszValue; return E_NOTIMPL; }
+    virtual HRESULT get_accDescription(VARIANT varChild, BSTR* pszDescription) { (void)varChild, (void)pszDescription; return E_NOTIMPL; }
+    virtual HRESULT get_accRole(VARIANT varChild, VARIANT* pvarRole) { (void)varChild, (void)pvarRole; return E_NOTIMPL; }
+    virtual HRESULT get_accState(VARIANT varChild, VARIANT* pvarState) { (void)varChild, (void)pvarState; return E_NOTIMPL; }
+    virtual HRESULT get_accHelp(VARIANT varChild, BSTR* pszHelp) { (void)varChild, (void)pszHelp; return E_NOTIMPL; }
+    virtual HRESULT get_accHelpTopic(BSTR* pszHelpFile, VARIANT varChild, long* pidTopic)
+    {
+        (void)pszHelpFile, (void)varChild, (void)pidTopic;
+        return E_NOTIMPL;
+    }
+    virtual HRESULT get_accKeyboardShortcut(VARIANT varChild, BSTR* pszKeyboardShortcut)
+    {
+        (void)varChild, (void)pszKeyboardShortcut;
+        return E_NOTIMPL;
+    }
+    virtual HRESULT get_accFocus(VARIANT* pvarChild) { (void)pvarChild; return E_NOTIMPL; }
+    virtual HRESULT get_accSelection(VARIANT* pvarChildren) { (void)pvarChildren; return E_NOTIMPL; }
+    virtual HRESULT get_accDefaultAction(VARIANT varChild, BSTR* pszDefaultAction) { (void)varChild, (void)pszDefaultAction; return E_NOTIMPL; }
+    virtual HRESULT accSelect(long flagsSelect, VARIANT varChild) { (void)flagsSelect, (void)varChild; return E_NOTIMPL; }
+    virtual HRESULT accLocation(long* pxLeft, long* pyTop, long* pcxWidth, long* pcyHeight, VARIANT varChild)
+    {
+        (void)pxLeft, (void)pyTop, (void)pcxWidth, (void)pcyHeight, (void)varChild;
+        return E_NOTIMPL;
+    }
+    virtual HRESULT accNavigate(long navDir, VARIANT varStart, VARIANT* pvarEndUpAt)
+    {
+        (void)navDir, (void)varStart, (void)pvarEndUpAt;
+        return E_NOTIMPL;
+    }
+    virtual HRESULT accHitTest(long xLeft, long yTop, VARIANT* pvarChild) { (void)xLeft, (void)yTop, (void)pvarChild; return E_NOTIMPL; }
+    virtual HRESULT accDoDefaultAction(VARIANT varChild) { (void)varChild; return E_NOTIMPL; }
+    virtual BOOL OnGestureZoom(CPoint ptCenter, long lDelta) { (void)ptCenter, (void)lDelta; return FALSE; }
+    virtual BOOL OnGesturePan(CPoint ptFrom, CPoint ptTo) { (void)ptFrom, (void)ptTo; return FALSE; }
+    virtual BOOL OnGestureRotate(CPoint ptCenter, double dblAngle) { (void)ptCenter, (void)dblAngle; return FALSE; }
+    virtual BOOL OnGestureTwoFingerTap(CPoint ptCenter) { (void)ptCenter; return FALSE; }
+    virtual BOOL OnGesturePressAndTap(CPoint ptPress, long lDelta) { (void)ptPress, (void)lDelta; return FALSE; }
+    virtual BOOL OnTouchInput(CPoint pt, int nInputNumber, int nInputsCount, PTOUCHINPUT pInput)
+    {
+        (void)pt, (void)nInputNumber, (void)nInputsCount, (void)pInput;
+        return FALSE;
+    }
+    virtual BOOL OnTouchInputs(UINT nInputsCount, PTOUCHINPUT pInputs) { (void)nInputsCount, (void)pInputs; return FALSE; }
+    virtual ULONG GetGestureStatus(CPoint ptTouch) { (void)ptTouch; return 0; }
+
+#include "afxwnd_members_.h"
+
+protected:
+    virtual void DoDataExchange(CDataExchange* pDX) { (void)pDX; }
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+    {
+        (void)wParam, (void)lParam, (void)pResult;
+        return FALSE;
+    }
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
+    {
+        (void)message, (void)wParam, (void)lParam, (void)pLResult;
+        return FALSE;
+    }
+    // Called after the window is gone (WM_NCDESTROY): a class that allocates its objects with
+    // new deletes itself here.
+    virtual void PostNcDestroy() {}
+    virtual BOOL CheckAutoCenter() { return TRUE; }
+    virtual BOOL IsFrameWnd() const { return FALSE; }
+
 protected:
     WNDPROC m_pfnSuper = nullptr;
 
@@ -195,6 +324,7 @@ protected:
     {
         Default();
         UnsubclassWindow();
+        PostNcDestroy();
     }
 
     friend LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);

@@ -2,8 +2,8 @@
 // "kiv_demo\live", which repaints the window when asked to redraw a plug-in, and the quote panel's
 // object at "kiv_demo\live\quotes", which owns the scroll bars and counts their changes.
 #pragma once
+#include <afxwin.h>
 #include "kiv_core/kiv_object.h"
-#include <windows.h>
 
 extern const char kLiveWindowPath[];
 extern const char kLivePanelPath[];

@@ -1,7 +1,7 @@
 // The live window's keys. To add one, write its action and add a line to kLiveKeys; an action
 // that makes another scheme active calls LiveWindow::SchemeChanged afterwards.
 #pragma once
-#include <windows.h>
+#include <afxwin.h>
 
 class LiveWindow;
 

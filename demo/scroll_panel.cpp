@@ -52,10 +52,10 @@ void ScrollPanel::Configure()
     int rowHeight = DpY(kListRowHeight), fixedWidth = DpX(kFixedColumnsWidth);
     CRect rowsArea(inside.left, inside.top + rowHeight + 1, inside.right - 1, inside.bottom - kBarRoom - 1);
     m_rows->SetScrollInfo(rowsArea, rowHeight, kListRowCount, 0);
-    int visibleColumns = std::max((m_list.Width() - fixedWidth) / DpX(kPriceColumnWidth), 1);
+    int visibleColumns = (std::max)((m_list.Width() - fixedWidth) / DpX(kPriceColumnWidth), 1);
     CRect columnsArea(inside.left + fixedWidth + 1, inside.top, inside.right - kBarRoom - 1, inside.bottom - 1);
     // The bar counts its page in its area's height, whatever its orientation.
-    m_columns->SetScrollInfo(columnsArea, std::max(columnsArea.Height() / visibleColumns, 1), kPriceColumnCount, 0);
+    m_columns->SetScrollInfo(columnsArea, (std::max)(columnsArea.Height() / visibleColumns, 1), kPriceColumnCount, 0);
 }
 
 void ScrollPanel::Paint(CDC* dc)

@@ -2,10 +2,10 @@
 // frame, a title bar, the list, a vertical bar for the rows and a horizontal bar for the price
 // columns. The gallery paints it in given states; the live window forwards real input to it.
 #pragma once
+#include <afxwin.h>
 #include "kiv_core/kiv_object.h"
 #include "kiv_skin/draw/plugin_title.h"
 #include "kiv_skin/scrollbar/plugin_scroll_bar.h"
-#include <afxwin.h>
 #include <memory>
 #include <string>
 

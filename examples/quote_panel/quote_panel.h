@@ -1,6 +1,6 @@
 // The example plug-in's one export: paints its panel into a device context.
 #pragma once
-#include <windows.h>
+#include <afxwin.h>
 
 #ifdef QUOTE_PANEL_BUILD
 #define QUOTE_PANEL_API __declspec(dllexport)

@@ -1,12 +1,42 @@
 #include "kiv_skin/intl/mox_index.h"
 #include <algorithm>
 #include <cstring>
+#ifdef _MSC_VER
+#include <intrin.h>
+#include <stdlib.h>
+#endif
 
 namespace kiv_skin {
 namespace mox {
 namespace {
 
 const size_t kHeadSize = 8;
+
+// The index of the lowest set bit of a non-zero word.
+unsigned LowestBit(uint64_t word)
+{
+#if defined(_MSC_VER) && defined(_M_IX86)
+    unsigned long bit;
+    if (_BitScanForward(&bit, static_cast<unsigned long>(word))) return bit;
+    _BitScanForward(&bit, static_cast<unsigned long>(word >> 32));
+    return bit + 32;
+#elif defined(_MSC_VER)
+    unsigned long bit;
+    _BitScanForward64(&bit, word);
+    return bit;
+#else
+    return static_cast<unsigned>(__builtin_ctzll(word));
+#endif
+}
+
+uint64_t ByteSwap(uint64_t word)
+{
+#ifdef _MSC_VER
+    return _byteswap_uint64(word);
+#else
+    return __builtin_bswap64(word);
+#endif
+}
 
 // Up to 8 bytes of text as a big-endian integer, zero-padded after its end: integers compare as
 // the texts do byte by byte.
@@ -29,8 +59,8 @@ uint64_t HeadOfWord(const char* text)
     std::memcpy(&word, text, sizeof(word));
     // The lowest marked byte is the first zero byte in memory order (little-endian words).
     uint64_t zeros = (word - 0x0101010101010101ull) & ~word & 0x8080808080808080ull;
-    if (zeros != 0) word &= (uint64_t(1) << (__builtin_ctzll(zeros) & ~7)) - 1;
-    return __builtin_bswap64(word);
+    if (zeros != 0) word &= (uint64_t(1) << (LowestBit(zeros) & ~7u)) - 1;
+    return ByteSwap(word);
 }
 
 // A text that ends within its head leaves a zero in the head's last byte.

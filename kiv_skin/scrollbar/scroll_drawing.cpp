@@ -148,7 +148,7 @@ void PluginScrollBar::DrawWekToolButton(CDC* pDC, const RECT* prc, BUTTON_TYPE t
     // larger, and the bottom and right edges in the cell's corner colour.
     strip.SetWindowOrg(-kCell * FaceCell(type, IsDarkBackground(pDC) != 0), 0);
     int w = r.Width(), h = r.Height();
-    int cw = std::min(w, kCell), ch = std::min(h, kCell);
+    int cw = (std::min)(w, kCell), ch = (std::min)(h, kCell);
     pDC->BitBlt(r.left, r.top, cw, ch, &strip, 0, 0, SRCCOPY);
     if (w > kCell) pDC->StretchBlt(r.left + kCell, r.top, w - kCell, ch, &strip, kCell - 1, 0, 1, ch, SRCCOPY);
     if (h > kCell) pDC->StretchBlt(r.left, r.top + kCell, cw, h - kCell, &strip, 0, kCell - 1, cw, 1, SRCCOPY);

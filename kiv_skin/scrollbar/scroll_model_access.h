@@ -2,7 +2,7 @@
 // position, page, total and flags read and written as one model.
 #pragma once
 #include "kiv_skin/scrollbar/scroll_arithmetic.h"
-#include <windows.h>
+#include <afxwin.h>
 
 namespace kiv_skin {
 

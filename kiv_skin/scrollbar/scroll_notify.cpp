@@ -1,5 +1,6 @@
 // The scroll bar's reports to the host: the owner object hears of the change at once, and the
 // owner's parent object is asked, through the message loop, to redraw the plug-in.
+#include <afxwin.h>
 #include "kiv_core/cmd_invoke_proxy.h"
 #include "kiv_core/object_manager.h"
 #include "kiv_skin/scrollbar/plugin_scroll_bar.h"

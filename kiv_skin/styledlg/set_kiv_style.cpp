@@ -1,5 +1,6 @@
 // KivStyleMgr::SetKivStyle: runs the style dialog with this library's resources and applies
 // what the user saved.
+#include <afxwin.h>
 #include "kiv_skin/module.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/styledlg/style_dlg.h"

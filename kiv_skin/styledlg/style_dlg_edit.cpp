@@ -40,7 +40,7 @@ void CStyleDlg::OnBnClickedButtonFont()
     CFont chosen;
     chosen.CreatePointFont(dialog.GetSize(), dialog.GetFaceName());
     m_bFontModified = 1;
-    SetFont(m_styleWork.fonts, m_strFontKey, &chosen, CString());
+    kiv_skin::SetFont(m_styleWork.fonts, m_strFontKey, &chosen, CString());
     chosen.DeleteObject();
     InvalidateRect(&m_rcFont);
     RepaintFontAndPreview();

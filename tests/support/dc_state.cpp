@@ -113,7 +113,7 @@ int GdiProbeSlot()
         HBRUSH probe = CreateSolidBrush(RGB(1, 2, 3));
         if (!probe) break;
         probes.push_back(probe);
-        highest = std::max(highest, static_cast<int>(reinterpret_cast<UINT_PTR>(probe) & 0xFFFF));
+        highest = (std::max)(highest, static_cast<int>(reinterpret_cast<UINT_PTR>(probe) & 0xFFFF));
     }
     for (auto it = probes.rbegin(); it != probes.rend(); ++it) DeleteObject(*it);
     return highest + 1 - static_cast<int>(probes.size());

@@ -4,7 +4,7 @@
 // next tick. A watchdog ends every dialog of the thread with -1 once the time is up, so that a
 // test that leaves a modal window open fails instead of blocking the run.
 #pragma once
-#include <windows.h>
+#include <afxwin.h>
 #include <functional>
 #include <string>
 
