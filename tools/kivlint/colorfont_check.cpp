@@ -60,17 +60,22 @@ void CheckColours(const SchemeFiles& scheme, Findings& findings)
         return;
     }
     std::map<std::string, int> seen;
+    SchemeColourTable table;
     int defaults = 0;
     for (const TiXmlElement* color = colors->FirstChildElement("color"); color; color = color->NextSiblingElement("color")) {
         const std::string name = Trimmed(AttributeOf(color, "name")), value = AttributeOf(color, "value");
         if (name.empty()) continue;
         NoteKey(path, name, color->Row(), seen, findings);
-        defaults += name == "DEFCOLOR";
-        if (kiv_skin::ColorFromValueText(value.c_str()) == 0xFFFFFFFF)
+        const ColourDefinition definition = {kiv_skin::ColorFromValueText(value.c_str()), color->Row()};
+        table.keys.emplace(name, definition);
+        if (name == "DEFCOLOR") table.fallback = definition, ++defaults;
+        if (definition.colour == kNoColour)
             findings.Error(path, color->Row(), "\"" + name + "\" has the value \"" + value + "\", which is no colour (write 0x00BBGGRR)");
     }
     if (defaults > 1) findings.Warning(path, 0, "\"DEFCOLOR\" is defined " + std::to_string(defaults) + " times: the last one is the fallback");
     CheckMissing(path, ColourKeys(), seen, "colour", findings);
+    CheckContrast(path, table, findings);
+    CheckColourVision(path, table, findings);
 }
 
 void CheckFonts(const SchemeFiles& scheme, Findings& findings)

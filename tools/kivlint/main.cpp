@@ -5,9 +5,13 @@
 //                                           catalogue cfg/kiv_skin/style.xml, the files it names,
 //                                           image files relative to FOLDER. No SCHEME: all.
 //     kivlint --keys                        list the keys the library reads and what it draws
+//     kivlint --pairs                       list the colours it draws one on the other, with the
+//                                           contrast each needs, and the direction colours
 //
 // Prints "file:line: error|warning: text" per finding. Exit status: 0 without errors (warnings
 // allowed), 1 with errors, 2 for a usage error or a catalogue that cannot be read.
+#include "colour_vision.h"
+#include "drawn_pairs.h"
 #include "library_keys.h"
 #include "scheme_checks.h"
 #include "scheme_files.h"
@@ -20,7 +24,7 @@ namespace {
 
 int Usage()
 {
-    std::fprintf(stderr, "usage: kivlint [--root FOLDER] [SCHEME...]\n       kivlint --keys\n");
+    std::fprintf(stderr, "usage: kivlint [--root FOLDER] [SCHEME...]\n       kivlint --keys\n       kivlint --pairs\n");
     return 2;
 }
 
@@ -29,6 +33,22 @@ int ListKeys()
     for (const kivlint::KeyUse& key : kivlint::ColourKeys()) std::printf("colour %s: %s\n", key.key, key.use);
     for (const kivlint::KeyUse& key : kivlint::FontKeys()) std::printf("font %s: %s\n", key.key, key.use);
     for (const kivlint::ImageRule& rule : kivlint::ImageRules()) std::printf("image %s: %s\n", rule.key, rule.geometry);
+    return 0;
+}
+
+int ListPairs()
+{
+    for (const kivlint::DrawnPair& pair : kivlint::DrawnPairs())
+        std::printf("pair %s on %s: %s %g:1: %s (%s, %s)\n", pair.ink, pair.ground, kivlint::NameOf(pair.kind),
+                    kivlint::RequiredRatio(pair.kind), pair.what, pair.inkSource, pair.groundSource);
+    for (const kivlint::DirectionPair& pair : kivlint::DirectionPairs()) {
+        std::printf("direction %s against %s: at least %g apart in CIEDE2000 under", pair.first, pair.second,
+                    kivlint::kDirectionDistance);
+        const char* separator = " ";
+        for (kivlint::Deficiency deficiency : kivlint::kDeficiencies)
+            std::printf("%s%s", separator, kivlint::NameOf(deficiency)), separator = ", ";
+        std::printf(" and with normal vision\n");
+    }
     return 0;
 }
 
@@ -60,6 +80,7 @@ int main(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         const std::string arg = argv[i];
         if (arg == "--keys" && argc == 2) return ListKeys();
+        if (arg == "--pairs" && argc == 2) return ListPairs();
         if (arg == "--root" && i + 1 < argc) root = argv[++i];
         else if (!arg.empty() && arg[0] == '-') return Usage();
         else names.push_back(arg);
