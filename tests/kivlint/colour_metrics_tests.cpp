@@ -126,6 +126,36 @@ TEST(ColourVision, RedAndGreenOfAQuoteListMergeForDeuteranopiaOnly)
     EXPECT_GT(tritan, 70);
 }
 
+double SeenApart(SchemeColour first, SchemeColour second, Deficiency deficiency)
+{
+    return DeltaE2000(ToLab(Simulate(first, deficiency)), ToLab(Simulate(second, deficiency)));
+}
+
+struct MergedPair {
+    SchemeColour first, second;
+    Deficiency merging;
+};
+
+// Pairs of equal luminance (text that passes on white and on black alike), each brought within 8
+// by one deficiency and kept over 14 apart by the other two: kivlint's tests use them for rise,
+// flat and fall.
+const MergedPair kMergedPairs[] = {
+    {ColourOf(0x00, 0x82, 0x87), ColourOf(0xAA, 0x5F, 0x6E), Deficiency::Protanopia},
+    {ColourOf(0xE6, 0x0F, 0x46), ColourOf(0x00, 0x87, 0x37), Deficiency::Deuteranopia},
+    {ColourOf(0x00, 0x7D, 0xAF), ColourOf(0x00, 0x87, 0x3C), Deficiency::Tritanopia},
+};
+
+TEST(ColourVision, EachDeficiencyAloneMergesItsPair)
+{
+    for (const MergedPair& pair : kMergedPairs) {
+        EXPECT_GT(DeltaE2000(ToLab(pair.first), ToLab(pair.second)), 40) << NameOf(pair.merging);
+        for (Deficiency d : kDeficiencies) {
+            if (d == pair.merging) EXPECT_LT(SeenApart(pair.first, pair.second, d), 8) << NameOf(d);
+            else EXPECT_GT(SeenApart(pair.first, pair.second, d), 14) << NameOf(pair.merging) << " " << NameOf(d);
+        }
+    }
+}
+
 TEST(NearestPassing, KeepsAPassingInkAndMovesAFailingOneJustFarEnough)
 {
     const SchemeColour grey = ColourOf(0x90, 0x90, 0x90);
