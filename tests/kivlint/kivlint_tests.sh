@@ -208,7 +208,7 @@ done
 lint pairs 0 --pairs
 says pairs '^pair UPTEXT on PLUG_BGCOLOR: text 4\.5:1: rising prices on a panel \(kiv_skin/styledlg/style_dlg_preview\.cpp, '
 says pairs '^pair SCROLLBARTEXT on SCROLLBARBACK: graphic 3:1: '
-says pairs '^direction UPTEXT against DOWNTEXT: at least 10 apart in CIEDE2000 under protanopia, deuteranopia, tritanopia '
+says pairs '^direction UPTEXT against DOWNTEXT: at least 10 apart in CIEDE2000 under protanopia, deuteranopia, tritanopia$'
 while read -r ink ground ink_source ground_source; do
   says keys "^colour $ink: "
   says keys "^colour $ground: "

@@ -47,7 +47,7 @@ int ListPairs()
         const char* separator = " ";
         for (kivlint::Deficiency deficiency : kivlint::kDeficiencies)
             std::printf("%s%s", separator, kivlint::NameOf(deficiency)), separator = ", ";
-        std::printf(" and with normal vision\n");
+        std::printf("\n");
     }
     return 0;
 }
