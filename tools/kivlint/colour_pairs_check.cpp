@@ -5,6 +5,7 @@
 #include "scheme_checks.h"
 #include <cmath>
 #include <cstdio>
+#include <initializer_list>
 
 namespace kivlint {
 namespace {
