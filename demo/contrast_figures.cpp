@@ -1,0 +1,105 @@
+#include "demo/contrast_figures.h"
+#include "demo/scheme_text.h"
+#include "tools/kivlint/colour_metrics.h"
+#include <cstdio>
+#include <iterator>
+
+using namespace kivlint;
+
+const Vision kVisions[4] = {
+    {"normal vision", "for reference", false, Deficiency::Protanopia},
+    {NameOf(Deficiency::Protanopia), "no red cones", true, Deficiency::Protanopia},
+    {NameOf(Deficiency::Deuteranopia), "no green cones", true, Deficiency::Deuteranopia},
+    {NameOf(Deficiency::Tritanopia), "no blue cones", true, Deficiency::Tritanopia},
+};
+
+COLORREF SeenAs(COLORREF colour, const Vision& vision)
+{
+    return vision.simulated ? Simulate(colour, vision.deficiency) : colour;
+}
+
+std::vector<PairFigure> PairFigures()
+{
+    std::vector<PairFigure> figures;
+    for (const DrawnPair& pair : DrawnPairs()) {
+        COLORREF ink = SchemeColor(pair.ink), ground = SchemeColor(pair.ground);
+        double ratio = ContrastRatio(ink, ground), needed = RequiredRatio(pair.kind);
+        figures.push_back({&pair, ink, ground, ratio, needed, ratio >= needed, NearestPassing(ink, ground, needed)});
+    }
+    return figures;
+}
+
+std::vector<DirectionFigure> DirectionFigures()
+{
+    std::vector<DirectionFigure> figures;
+    for (const Vision& vision : kVisions) {
+        DirectionFigure figure = {&vision, nullptr, 0, true};
+        for (const DirectionPair& pair : DirectionPairs()) {
+            Lab first = ToLab(SeenAs(SchemeColor(pair.first), vision));
+            Lab second = ToLab(SeenAs(SchemeColor(pair.second), vision));
+            double distance = DeltaE2000(first, second);
+            if (figure.closest == nullptr || distance < figure.distance) figure.closest = &pair, figure.distance = distance;
+        }
+        figure.passes = !vision.simulated || figure.distance >= kDirectionDistance;
+        figures.push_back(figure);
+    }
+    return figures;
+}
+
+SchemeFigures FiguresOf(const char* scheme)
+{
+    return {scheme, PairFigures(), DirectionFigures()};
+}
+
+namespace {
+
+std::string Format(const char* format, double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof(text), format, value);
+    return text;
+}
+
+std::string Verdict(bool passes) { return passes ? " pass" : " **FAIL**"; }
+
+std::string PairTable(const std::vector<SchemeFigures>& schemes)
+{
+    std::string table = "| Ink | Ground | Kind | Needs |", rule = "|---|---|---|---:|";
+    for (const SchemeFigures& scheme : schemes) table += " " + scheme.scheme + " |", rule += "---:|";
+    table += "\n" + rule + "\n";
+    for (size_t i = 0; i < DrawnPairs().size(); ++i) {
+        const DrawnPair& pair = DrawnPairs()[i];
+        table += std::string("| `") + pair.ink + "` | `" + pair.ground + "` | " + NameOf(pair.kind) + " | " +
+                 Format("%.1f:1", RequiredRatio(pair.kind)) + " |";
+        for (const SchemeFigures& scheme : schemes)
+            table += " " + Format("%.2f", scheme.pairs[i].ratio) + Verdict(scheme.pairs[i].passes) + " |";
+        table += "\n";
+    }
+    return table;
+}
+
+std::string DirectionTable(const std::vector<SchemeFigures>& schemes)
+{
+    std::string table = "| Vision |", rule = "|---|";
+    for (const SchemeFigures& scheme : schemes) table += " " + scheme.scheme + " |", rule += "---|";
+    table += "\n" + rule + "\n";
+    for (size_t i = 0; i < std::size(kVisions); ++i) {
+        table += std::string("| ") + kVisions[i].name + " |";
+        for (const SchemeFigures& scheme : schemes) {
+            const DirectionFigure& figure = scheme.directions[i];
+            table += " " + Format("%.1f", figure.distance) + " (" + figure.closest->first + "/" + figure.closest->second +
+                     ")" + (kVisions[i].simulated ? Verdict(figure.passes) : "") + " |";
+        }
+        table += "\n";
+    }
+    return table;
+}
+
+}  // namespace
+
+std::string ContrastTablesMarkdown(const std::vector<SchemeFigures>& schemes)
+{
+    return "Contrast ratio of each drawn pair (WCAG 2.x):\n\n" + PairTable(schemes) +
+           "\nSmallest CIEDE2000 distance between rise, flat and fall, and the two colours it is between "
+           "(needs " + Format("%.0f", kDirectionDistance) + " under each deficiency):\n\n" + DirectionTable(schemes);
+}
