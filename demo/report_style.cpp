@@ -72,7 +72,7 @@ void ReportText(CDC* dc, const char* text, const CRect& box, ReportFont font, CO
 
 void DrawVerdict(CDC* dc, const CRect& box, bool passes)
 {
-    COLORREF colour = passes ? RGB(0, 122, 51) : RGB(196, 20, 28);
+    COLORREF colour = passes ? kReportPass : kReportFail;
     int top = box.top + (box.Height() - kDisc) / 2;
     CBrush fill(colour);
     CPen edge(PS_SOLID, 1, colour);

@@ -8,6 +8,8 @@ const COLORREF kReportPage = RGB(250, 250, 248);
 const COLORREF kReportInk = RGB(24, 24, 24);
 const COLORREF kReportQuiet = RGB(92, 92, 92);
 const COLORREF kReportRule = RGB(200, 200, 196);
+const COLORREF kReportPass = RGB(0, 122, 51);
+const COLORREF kReportFail = RGB(196, 20, 28);
 const UINT kReportLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
 
 enum class ReportFont { Body, Bold, Heading };

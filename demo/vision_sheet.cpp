@@ -77,6 +77,13 @@ CSize VisionSheetSize()
     return CSize(2 * kMargin + kVisionCount * panel.cx + (kVisionCount - 1) * kGap, kTitle + kLabel + panel.cy + kMargin);
 }
 
+CRect VisionPanelArea(int index)
+{
+    CSize panel = PanelSize();
+    int left = kMargin + index * (panel.cx + kGap);
+    return CRect(left, kTitle + kLabel, left + panel.cx, kTitle + kLabel + panel.cy);
+}
+
 void DrawVisionSheet(Picture& sheet, const char* title)
 {
     CSize size = VisionSheetSize(), panelSize = PanelSize();
@@ -87,9 +94,8 @@ void DrawVisionSheet(Picture& sheet, const char* title)
     DrawQuotePanel(panel.dc());
     std::vector<DirectionFigure> figures = DirectionFigures();
     for (int i = 0; i < kVisionCount; ++i) {
-        int left = kMargin + i * (panelSize.cx + kGap);
-        Label(sheet.dc(), figures[i], left, panelSize.cx);
-        CRect area(left, kTitle + kLabel, left + panelSize.cx, kTitle + kLabel + panelSize.cy);
+        CRect area = VisionPanelArea(i);
+        Label(sheet.dc(), figures[i], area.left, area.Width());
         sheet.dc()->BitBlt(area.left, area.top, area.Width(), area.Height(), panel.dc(), 0, 0, SRCCOPY);
         if (kVisions[i].simulated) SeeArea(sheet, area, kVisions[i]);
     }

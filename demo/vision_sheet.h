@@ -6,5 +6,7 @@
 #include <afxwin.h>
 
 CSize VisionSheetSize();
+// Where the sheet shows the panel as seen with kVisions[index].
+CRect VisionPanelArea(int index);
 // Paints the sheet into a picture of VisionSheetSize, headed by title (UTF-8).
 void DrawVisionSheet(Picture& sheet, const char* title);
