@@ -1,7 +1,7 @@
 #include "demo/contrast_figures.h"
+#include "demo/report_style.h"
 #include "demo/scheme_text.h"
 #include "tools/kivlint/colour_metrics.h"
-#include <cstdio>
 #include <iterator>
 
 using namespace kivlint;
@@ -38,7 +38,10 @@ std::vector<DirectionFigure> DirectionFigures()
             Lab first = ToLab(SeenAs(SchemeColor(pair.first), vision));
             Lab second = ToLab(SeenAs(SchemeColor(pair.second), vision));
             double distance = DeltaE2000(first, second);
-            if (figure.closest == nullptr || distance < figure.distance) figure.closest = &pair, figure.distance = distance;
+            if (figure.closest == nullptr || distance < figure.distance) {
+                figure.closest = &pair;
+                figure.distance = distance;
+            }
         }
         figure.passes = !vision.simulated || figure.distance >= kDirectionDistance;
         figures.push_back(figure);
@@ -53,13 +56,6 @@ SchemeFigures FiguresOf(const char* scheme)
 
 namespace {
 
-std::string Format(const char* format, double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof(text), format, value);
-    return text;
-}
-
 std::string Verdict(bool passes) { return passes ? " pass" : " **FAIL**"; }
 
 std::string PairTable(const std::vector<SchemeFigures>& schemes)
@@ -70,9 +66,9 @@ std::string PairTable(const std::vector<SchemeFigures>& schemes)
     for (size_t i = 0; i < DrawnPairs().size(); ++i) {
         const DrawnPair& pair = DrawnPairs()[i];
         table += std::string("| `") + pair.ink + "` | `" + pair.ground + "` | " + NameOf(pair.kind) + " | " +
-                 Format("%.1f:1", RequiredRatio(pair.kind)) + " |";
+                 Printed("%.1f:1", RequiredRatio(pair.kind)) + " |";
         for (const SchemeFigures& scheme : schemes)
-            table += " " + Format("%.2f", scheme.pairs[i].ratio) + Verdict(scheme.pairs[i].passes) + " |";
+            table += " " + Printed("%.2f", scheme.pairs[i].ratio) + Verdict(scheme.pairs[i].passes) + " |";
         table += "\n";
     }
     return table;
@@ -87,8 +83,8 @@ std::string DirectionTable(const std::vector<SchemeFigures>& schemes)
         table += std::string("| ") + kVisions[i].name + " |";
         for (const SchemeFigures& scheme : schemes) {
             const DirectionFigure& figure = scheme.directions[i];
-            table += " " + Format("%.1f", figure.distance) + " (" + figure.closest->first + "/" + figure.closest->second +
-                     ")" + (kVisions[i].simulated ? Verdict(figure.passes) : "") + " |";
+            table += " " + Printed("%.1f", figure.distance) + " (" + figure.closest->first + "/" +
+                     figure.closest->second + ")" + (kVisions[i].simulated ? Verdict(figure.passes) : "") + " |";
         }
         table += "\n";
     }
@@ -100,6 +96,7 @@ std::string DirectionTable(const std::vector<SchemeFigures>& schemes)
 std::string ContrastTablesMarkdown(const std::vector<SchemeFigures>& schemes)
 {
     return "Contrast ratio of each drawn pair (WCAG 2.x):\n\n" + PairTable(schemes) +
-           "\nSmallest CIEDE2000 distance between rise, flat and fall, and the two colours it is between "
-           "(needs " + Format("%.0f", kDirectionDistance) + " under each deficiency):\n\n" + DirectionTable(schemes);
+           "\nSmallest CIEDE2000 distance between rise, flat and fall, and the two colours it is between (needs " +
+           Printed("%.0f", kDirectionDistance) + " under each deficiency; normal vision for reference):\n\n" +
+           DirectionTable(schemes);
 }

@@ -138,13 +138,15 @@ void PaintNearestSample(CDC* dc, const PairFigure& figure, const CRect& swatch)
 {
     KivDraw::FillRect(dc, &swatch, figure.ground);
     if (figure.pair->kind == kivlint::InkKind::Text) {
-        WriteText(dc, "+12.50", swatch, FontOf(figure.pair->ink), figure.nearest, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+        const UINT centred = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+        WriteText(dc, "+12.50", swatch, FontOf(figure.pair->ink), figure.nearest, centred);
         return;
     }
     KivDraw kit;
     CRect arrow(swatch.left + 4, swatch.top + 2, swatch.left + swatch.Height(), swatch.bottom - 2);
     kit.DrawArrowButton(dc, &arrow, figure.nearest, kNoBackground, 3, 0);
-    CRect line(arrow.right + 2, swatch.top + swatch.Height() / 2, swatch.right - 4, swatch.top + swatch.Height() / 2 + 1);
+    int middle = swatch.top + swatch.Height() / 2;
+    CRect line(arrow.right + 2, middle, swatch.right - 4, middle + 1);
     KivDraw::FillRect(dc, &line, figure.nearest);
 }
 
@@ -160,7 +162,8 @@ void PaintDirectionSample(CDC* dc, KivDraw& kit, const Vision& vision, const CRe
         KivDraw::FillRect(dc, left + 8, swatch.top + 8, 12, swatch.Height() - 16, seen);
         SchemeTextStyle style(dc, "PLUG_STDFONT", seen);
         UINT align = dc->SetTextAlign(TA_RIGHT | TA_TOP);
-        kit.DrawUL(dc, left + pitch - 8, swatch.top + (swatch.Height() - LineHeight(dc, "PLUG_STDFONT")) / 2, prices[i], 1);
+        int top = swatch.top + (swatch.Height() - LineHeight(dc, "PLUG_STDFONT")) / 2;
+        kit.DrawUL(dc, left + pitch - 8, top, prices[i], 1);
         dc->SetTextAlign(align);
     }
 }

@@ -35,13 +35,6 @@ CRect Cell(int column, int top, int height)
 CRect Upper(const CRect& cell) { return CRect(cell.left, cell.top + 2, cell.right, cell.top + cell.Height() / 2); }
 CRect Lower(const CRect& cell) { return CRect(cell.left, cell.top + cell.Height() / 2, cell.right, cell.bottom - 2); }
 
-std::string Printed(const char* format, double value)
-{
-    char text[48];
-    std::snprintf(text, sizeof(text), format, value);
-    return text;
-}
-
 // As the scheme files write it, 0x00BBGGRR.
 std::string Hex(COLORREF colour)
 {
@@ -82,7 +75,8 @@ void NearestCell(CDC* dc, const PairFigure& figure, const CRect& cell)
     PaintNearestSample(dc, figure, swatch);
     FrameSwatch(dc, swatch);
     CRect text(swatch.right + 8, cell.top, cell.right, cell.bottom);
-    std::string value = Hex(figure.nearest) + Printed("  %.2f:1", kivlint::ContrastRatio(figure.nearest, figure.ground));
+    double ratio = kivlint::ContrastRatio(figure.nearest, figure.ground);
+    std::string value = Hex(figure.nearest) + Printed("  %.2f:1", ratio);
     ReportText(dc, value.c_str(), text, ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
 }
 
@@ -95,7 +89,8 @@ void PairRow(CDC* dc, KivDraw& kit, const PairFigure& figure, int top)
     CRect pair = Cell(kPair, top, kRow);
     std::string keys = std::string(figure.pair->ink) + "  on  " + figure.pair->ground;
     ReportText(dc, keys.c_str(), Upper(pair), ReportFont::Bold, kReportInk, DT_LEFT | kReportLine);
-    ReportText(dc, figure.pair->what, Lower(pair), ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine | DT_END_ELLIPSIS);
+    ReportText(dc, figure.pair->what, Lower(pair), ReportFont::Body, kReportQuiet,
+               DT_LEFT | kReportLine | DT_END_ELLIPSIS);
     CRect colours = Cell(kColours, top, kRow);
     ReportText(dc, Hex(figure.ink).c_str(), Upper(colours), ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
     ReportText(dc, Hex(figure.ground).c_str(), Lower(colours), ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
@@ -144,7 +139,8 @@ void DirectionRow(CDC* dc, KivDraw& kit, const DirectionFigure& figure, int top)
                DT_RIGHT | kReportLine);
     CRect needs = Cell(kNeeds, top, kRow), result = Cell(kResult, top, kRow);
     if (figure.vision->simulated) {
-        ReportText(dc, Printed("%.0f", kDirectionDistance).c_str(), needs, ReportFont::Body, kReportInk, DT_RIGHT | kReportLine);
+        std::string needed = Printed("%.0f", kDirectionDistance);
+        ReportText(dc, needed.c_str(), needs, ReportFont::Body, kReportInk, DT_RIGHT | kReportLine);
         DrawVerdict(dc, result, figure.passes);
     } else {
         ReportText(dc, "-", needs, ReportFont::Body, kReportQuiet, DT_RIGHT | kReportLine);

@@ -1,5 +1,6 @@
 #include "demo/report_style.h"
 #include "kiv_skin/intl/kiv_text_out.h"
+#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -55,6 +56,13 @@ void DrawSign(CDC* dc, int x, int y, bool tick)
 }
 
 }  // namespace
+
+std::string Printed(const char* format, double value)
+{
+    char text[48];
+    std::snprintf(text, sizeof(text), format, value);
+    return text;
+}
 
 void ReportText(CDC* dc, const char* text, const CRect& box, ReportFont font, COLORREF color, UINT format)
 {

@@ -3,6 +3,7 @@
 // scheme, so that a report stays readable when the scheme's own colours fail it.
 #pragma once
 #include <afxwin.h>
+#include <string>
 
 const COLORREF kReportPage = RGB(250, 250, 248);
 const COLORREF kReportInk = RGB(24, 24, 24);
@@ -11,6 +12,9 @@ const COLORREF kReportRule = RGB(200, 200, 196);
 const COLORREF kReportPass = RGB(0, 122, 51);
 const COLORREF kReportFail = RGB(196, 20, 28);
 const UINT kReportLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+
+// A number as printf's format writes it.
+std::string Printed(const char* format, double value);
 
 enum class ReportFont { Body, Bold, Heading };
 

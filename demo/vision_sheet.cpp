@@ -3,7 +3,6 @@
 #include "demo/panel.h"
 #include "demo/report_style.h"
 #include "demo/scheme_text.h"
-#include <cstdio>
 #include <iterator>
 #include <string>
 #include <unordered_map>
@@ -45,13 +44,6 @@ void SeeArea(Picture& picture, const CRect& area, const Vision& vision)
         }
 }
 
-std::string Printed(const char* format, double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof(text), format, value);
-    return text;
-}
-
 // The vision's name, what the reader lacks, how close the direction colours come, and the
 // check's verdict.
 void Label(CDC* dc, const DirectionFigure& figure, int left, int width)
@@ -74,7 +66,8 @@ void Label(CDC* dc, const DirectionFigure& figure, int left, int width)
 CSize VisionSheetSize()
 {
     CSize panel = PanelSize();
-    return CSize(2 * kMargin + kVisionCount * panel.cx + (kVisionCount - 1) * kGap, kTitle + kLabel + panel.cy + kMargin);
+    int width = 2 * kMargin + kVisionCount * panel.cx + (kVisionCount - 1) * kGap;
+    return CSize(width, kTitle + kLabel + panel.cy + kMargin);
 }
 
 CRect VisionPanelArea(int index)

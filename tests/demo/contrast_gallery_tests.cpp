@@ -7,7 +7,6 @@
 #include "demo/vision_sheet.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "dark_gallery.h"
-#include <cstdio>
 #include <string>
 
 namespace {
@@ -18,13 +17,6 @@ int Count(const DecodedPng& png, COLORREF color)
     for (int y = 0; y < png.height; ++y)
         for (int x = 0; x < png.width; ++x) n += png.Color(x, y) == color ? 1 : 0;
     return n;
-}
-
-std::string Printed(const char* format, double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof(text), format, value);
-    return text;
 }
 
 }  // namespace
