@@ -24,7 +24,9 @@ std::vector<PairFigure> PairFigures()
     for (const DrawnPair& pair : DrawnPairs()) {
         COLORREF ink = SchemeColor(pair.ink), ground = SchemeColor(pair.ground);
         double ratio = ContrastRatio(ink, ground), needed = RequiredRatio(pair.kind);
-        figures.push_back({&pair, ink, ground, ratio, needed, ratio >= needed, NearestPassing(ink, ground, needed)});
+        bool judged = ink != kNoSchemeColour && ground != kNoSchemeColour;
+        figures.push_back({&pair, ink, ground, ratio, needed, judged, !judged || ratio >= needed,
+                           NearestPassing(ink, ground, needed)});
     }
     return figures;
 }
@@ -35,6 +37,7 @@ std::vector<DirectionFigure> DirectionFigures()
     for (const Vision& vision : kVisions) {
         DirectionFigure figure = {&vision, nullptr, 0, true};
         for (const DirectionPair& pair : DirectionPairs()) {
+            if (SchemeColor(pair.first) == kNoSchemeColour || SchemeColor(pair.second) == kNoSchemeColour) continue;
             Lab first = ToLab(SeenAs(SchemeColor(pair.first), vision));
             Lab second = ToLab(SeenAs(SchemeColor(pair.second), vision));
             double distance = DeltaE2000(first, second);
@@ -43,7 +46,7 @@ std::vector<DirectionFigure> DirectionFigures()
                 figure.distance = distance;
             }
         }
-        figure.passes = !vision.simulated || figure.distance >= kDirectionDistance;
+        figure.passes = !vision.simulated || figure.closest == nullptr || figure.distance >= kDirectionDistance;
         figures.push_back(figure);
     }
     return figures;
@@ -56,7 +59,19 @@ SchemeFigures FiguresOf(const char* scheme)
 
 namespace {
 
-std::string Verdict(bool passes) { return passes ? " pass" : " **FAIL**"; }
+std::string PairCell(const PairFigure& figure)
+{
+    if (!figure.judged) return "no colour";
+    return Cut(figure.ratio, 2) + (figure.passes ? " pass" : " **FAIL**");
+}
+
+std::string DirectionCell(const DirectionFigure& figure)
+{
+    if (figure.closest == nullptr) return "no colours";
+    std::string cell = Cut(figure.distance, 1) + " (" + figure.closest->first + "/" + figure.closest->second + ")";
+    if (!figure.vision->simulated) return cell;
+    return cell + (figure.passes ? " pass" : " **FAIL**");
+}
 
 std::string PairTable(const std::vector<SchemeFigures>& schemes)
 {
@@ -66,9 +81,9 @@ std::string PairTable(const std::vector<SchemeFigures>& schemes)
     for (size_t i = 0; i < DrawnPairs().size(); ++i) {
         const DrawnPair& pair = DrawnPairs()[i];
         table += std::string("| `") + pair.ink + "` | `" + pair.ground + "` | " + NameOf(pair.kind) + " | " +
-                 Printed("%.1f:1", RequiredRatio(pair.kind)) + " |";
+                 Plain(RequiredRatio(pair.kind)) + ":1 |";
         for (const SchemeFigures& scheme : schemes)
-            table += " " + Printed("%.2f", scheme.pairs[i].ratio) + Verdict(scheme.pairs[i].passes) + " |";
+            table += " " + PairCell(scheme.pairs[i]) + " |";
         table += "\n";
     }
     return table;
@@ -81,11 +96,7 @@ std::string DirectionTable(const std::vector<SchemeFigures>& schemes)
     table += "\n" + rule + "\n";
     for (size_t i = 0; i < std::size(kVisions); ++i) {
         table += std::string("| ") + kVisions[i].name + " |";
-        for (const SchemeFigures& scheme : schemes) {
-            const DirectionFigure& figure = scheme.directions[i];
-            table += " " + Printed("%.1f", figure.distance) + " (" + figure.closest->first + "/" +
-                     figure.closest->second + ")" + (kVisions[i].simulated ? Verdict(figure.passes) : "") + " |";
-        }
+        for (const SchemeFigures& scheme : schemes) table += " " + DirectionCell(scheme.directions[i]) + " |";
         table += "\n";
     }
     return table;
@@ -97,6 +108,6 @@ std::string ContrastTablesMarkdown(const std::vector<SchemeFigures>& schemes)
 {
     return "Contrast ratio of each drawn pair (WCAG 2.x):\n\n" + PairTable(schemes) +
            "\nSmallest CIEDE2000 distance between rise, flat and fall, and the two colours it is between (needs " +
-           Printed("%.0f", kDirectionDistance) + " under each deficiency; normal vision for reference):\n\n" +
+           Plain(kDirectionDistance) + " under each deficiency; normal vision for reference):\n\n" +
            DirectionTable(schemes);
 }

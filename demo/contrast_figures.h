@@ -8,9 +8,8 @@
 #include <string>
 #include <vector>
 
-// Rise, flat and fall pass when their closest two stay this far apart (CIEDE2000) under each
-// deficiency.
-const double kDirectionDistance = 10;
+// A value the library reads as no colour: kivlint leaves a pair holding it unjudged.
+const COLORREF kNoSchemeColour = 0xFFFFFFFF;
 
 // One way of seeing: normal vision, or one of the deficiencies the model simulates.
 struct Vision {
@@ -28,13 +27,15 @@ struct PairFigure {
     const kivlint::DrawnPair* pair;
     COLORREF ink, ground;
     double ratio, needed;
+    bool judged;  // false when either colour is no colour
     bool passes;
     COLORREF nearest;  // the nearest ink that passes on the ground; the ink itself when it passes
 };
 
 struct DirectionFigure {
     const Vision* vision;
-    const kivlint::DirectionPair* closest;  // the direction colours that come closest
+    const kivlint::DirectionPair* closest;  // the direction colours that come closest; null when
+                                            // no two of them are colours
     double distance;                        // their CIEDE2000 distance as seen
     bool passes;  // judged under the deficiencies only: normal vision is shown for reference
 };

@@ -60,14 +60,15 @@ int PairsHeight()
 
 void GroupHeading(CDC* dc, InkKind kind, int top)
 {
-    const char* text = kind == InkKind::Text ? "Text: needs 4.5:1" : "Lines, marks and icons: need 3:1";
+    std::string text = kind == InkKind::Text ? "Text: needs " : "Lines, marks and icons: need ";
+    text += Plain(kivlint::RequiredRatio(kind)) + ":1";
     CRect box(kMargin, top, Cell(kNearest, 0, 0).right, top + kGroup);
-    ReportText(dc, text, box, ReportFont::Bold, kReportInk, DT_LEFT | DT_BOTTOM | DT_SINGLELINE);
+    ReportText(dc, text.c_str(), box, ReportFont::Bold, kReportInk, DT_LEFT | DT_BOTTOM | DT_SINGLELINE);
 }
 
 void NearestCell(CDC* dc, const PairFigure& figure, const CRect& cell)
 {
-    if (figure.passes) {
+    if (!figure.judged || figure.passes) {
         ReportText(dc, "-", cell, ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine);
         return;
     }
@@ -76,7 +77,7 @@ void NearestCell(CDC* dc, const PairFigure& figure, const CRect& cell)
     FrameSwatch(dc, swatch);
     CRect text(swatch.right + 8, cell.top, cell.right, cell.bottom);
     double ratio = kivlint::ContrastRatio(figure.nearest, figure.ground);
-    std::string value = Hex(figure.nearest) + Printed("  %.2f:1", ratio);
+    std::string value = Hex(figure.nearest) + "  " + Cut(ratio, 2) + ":1";
     ReportText(dc, value.c_str(), text, ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
 }
 
@@ -94,11 +95,14 @@ void PairRow(CDC* dc, KivDraw& kit, const PairFigure& figure, int top)
     CRect colours = Cell(kColours, top, kRow);
     ReportText(dc, Hex(figure.ink).c_str(), Upper(colours), ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
     ReportText(dc, Hex(figure.ground).c_str(), Lower(colours), ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
-    ReportText(dc, Printed("%.2f:1", figure.ratio).c_str(), Cell(kRatio, top, kRow), ReportFont::Bold, kReportInk,
-               DT_RIGHT | kReportLine);
-    ReportText(dc, Printed("%.1f:1", figure.needed).c_str(), Cell(kNeeds, top, kRow), ReportFont::Body, kReportInk,
-               DT_RIGHT | kReportLine);
-    DrawVerdict(dc, Cell(kResult, top, kRow), figure.passes);
+    std::string ratio = figure.judged ? Cut(figure.ratio, 2) + ":1" : "-";
+    ReportText(dc, ratio.c_str(), Cell(kRatio, top, kRow), ReportFont::Bold, kReportInk, DT_RIGHT | kReportLine);
+    std::string needed = Plain(figure.needed) + ":1";
+    ReportText(dc, needed.c_str(), Cell(kNeeds, top, kRow), ReportFont::Body, kReportInk, DT_RIGHT | kReportLine);
+    if (figure.judged)
+        DrawVerdict(dc, Cell(kResult, top, kRow), figure.passes);
+    else
+        ReportText(dc, "no colour", Cell(kResult, top, kRow), ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine);
     NearestCell(dc, figure, Cell(kNearest, top, kRow));
 }
 
@@ -126,6 +130,21 @@ int DrawPairs(CDC* dc, int top)
 
 int DirectionsHeight() { return kTitle + kIntro + kHeader + static_cast<int>(std::size(kVisions)) * kRow; }
 
+// What is needed and the verdict: judged under the deficiencies only.
+void DirectionVerdict(CDC* dc, const DirectionFigure& figure, int top)
+{
+    CRect needs = Cell(kNeeds, top, kRow), result = Cell(kResult, top, kRow);
+    if (figure.closest == nullptr || !figure.vision->simulated) {
+        ReportText(dc, "-", needs, ReportFont::Body, kReportQuiet, DT_RIGHT | kReportLine);
+        const char* why = figure.closest == nullptr ? "no colours" : "reference";
+        ReportText(dc, why, result, ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine);
+        return;
+    }
+    std::string needed = Plain(kivlint::kDirectionDistance);
+    ReportText(dc, needed.c_str(), needs, ReportFont::Body, kReportInk, DT_RIGHT | kReportLine);
+    DrawVerdict(dc, result, figure.passes);
+}
+
 void DirectionRow(CDC* dc, KivDraw& kit, const DirectionFigure& figure, int top)
 {
     DrawRule(dc, CRect(kMargin, top, Cell(kNearest, 0, 0).right, top + 1));
@@ -135,18 +154,11 @@ void DirectionRow(CDC* dc, KivDraw& kit, const DirectionFigure& figure, int top)
     CRect vision = Cell(kPair, top, kRow);
     ReportText(dc, figure.vision->name, Upper(vision), ReportFont::Bold, kReportInk, DT_LEFT | kReportLine);
     ReportText(dc, figure.vision->gloss, Lower(vision), ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine);
-    ReportText(dc, Printed("%.1f", figure.distance).c_str(), Cell(kRatio, top, kRow), ReportFont::Bold, kReportInk,
-               DT_RIGHT | kReportLine);
-    CRect needs = Cell(kNeeds, top, kRow), result = Cell(kResult, top, kRow);
-    if (figure.vision->simulated) {
-        std::string needed = Printed("%.0f", kDirectionDistance);
-        ReportText(dc, needed.c_str(), needs, ReportFont::Body, kReportInk, DT_RIGHT | kReportLine);
-        DrawVerdict(dc, result, figure.passes);
-    } else {
-        ReportText(dc, "-", needs, ReportFont::Body, kReportQuiet, DT_RIGHT | kReportLine);
-        ReportText(dc, "reference", result, ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine);
-    }
-    std::string closest = std::string(figure.closest->first) + "  and  " + figure.closest->second;
+    bool measured = figure.closest != nullptr;
+    std::string distance = measured ? Cut(figure.distance, 1) : "-";
+    ReportText(dc, distance.c_str(), Cell(kRatio, top, kRow), ReportFont::Bold, kReportInk, DT_RIGHT | kReportLine);
+    DirectionVerdict(dc, figure, top);
+    std::string closest = measured ? std::string(figure.closest->first) + "  and  " + figure.closest->second : "-";
     ReportText(dc, closest.c_str(), Cell(kNearest, top, kRow), ReportFont::Body, kReportInk, DT_LEFT | kReportLine);
 }
 

@@ -13,8 +13,10 @@ const COLORREF kReportPass = RGB(0, 122, 51);
 const COLORREF kReportFail = RGB(196, 20, 28);
 const UINT kReportLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
 
-// A number as printf's format writes it.
-std::string Printed(const char* format, double value);
+// Figures as kivlint prints them: cut (not rounded) to their decimals, so that one that fails
+// never prints as the one needed; and needed figures as people write them (4.5, 3, 10).
+std::string Cut(double value, int decimals);
+std::string Plain(double value);
 
 enum class ReportFont { Body, Bold, Heading };
 

@@ -54,11 +54,12 @@ void Label(CDC* dc, const DirectionFigure& figure, int left, int width)
     std::string capitalised = vision.name;
     capitalised[0] = static_cast<char>(capitalised[0] - 'a' + 'A');
     ReportText(dc, capitalised.c_str(), name, ReportFont::Bold, kReportInk, DT_LEFT | kReportLine);
-    std::string text = std::string(vision.simulated ? vision.gloss : "as the scheme is") + ";  closest: " +
-                       figure.closest->first + " and " + figure.closest->second + ", " +
-                       Printed("%.1f", figure.distance) + " apart";
+    std::string text = vision.simulated ? vision.gloss : "as the scheme is";
+    if (figure.closest != nullptr)
+        text += std::string(";  closest: ") + figure.closest->first + " and " + figure.closest->second + ", " +
+                Cut(figure.distance, 1) + " apart";
     ReportText(dc, text.c_str(), detail, ReportFont::Body, kReportQuiet, DT_LEFT | kReportLine);
-    if (vision.simulated) DrawVerdict(dc, CRect(name.right - 64, name.top, name.right, name.bottom), figure.passes);
+    if (vision.simulated && figure.closest != nullptr) DrawVerdict(dc, CRect(name.right - 64, name.top, name.right, name.bottom), figure.passes);
 }
 
 }  // namespace

@@ -32,4 +32,10 @@ struct DirectionPair {
 };
 const std::vector<DirectionPair>& DirectionPairs();
 
+// Rise, fall and unchanged are told apart at a glance in 12-pixel text, so they must stay at least
+// this CIEDE2000 distance apart for every reader: far above the just-noticeable difference of
+// about 2.3, which holds for large patches side by side, because small text read at a glance
+// needs much more.
+const double kDirectionDistance = 10;
+
 }  // namespace kivlint
