@@ -1,16 +1,20 @@
 #include "demo/gallery.h"
 #include "demo/console.h"
+#include "demo/contrast_figures.h"
+#include "demo/contrast_sheet.h"
 #include "demo/markup_sheet.h"
 #include "demo/panel.h"
 #include "demo/picture.h"
 #include "demo/piece_sheet.h"
 #include "demo/scroll_sheet.h"
+#include "demo/vision_sheet.h"
 #include "kiv_base/text.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
 #include "kiv_skin/style/style_catalogue.h"
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <system_error>
 
@@ -99,6 +103,36 @@ bool RenderScrollSheet(const CString& scheme, const std::string& folder, const c
     return Save(sheet, folder, scheme, kind);
 }
 
+bool RenderContrastSheet(const CString& scheme, const std::string& folder)
+{
+    CSize size = ContrastSheetSize();
+    Picture sheet(size.cx, size.cy, 0);
+    DrawContrastSheet(sheet.dc(), SheetTitle("Contrast", scheme).c_str());
+    return Save(sheet, folder, scheme, "contrast");
+}
+
+bool RenderVisionSheet(const CString& scheme, const std::string& folder)
+{
+    CSize size = VisionSheetSize();
+    Picture sheet(size.cx, size.cy, 0);
+    DrawVisionSheet(sheet, SheetTitle("The quote panel with each colour-vision deficiency", scheme).c_str());
+    return Save(sheet, folder, scheme, "vision");
+}
+
+// contrast.md: the contrast sheets' figures of every scheme as Markdown tables, for the docs.
+bool WriteContrastTables(const std::vector<SchemeFigures>& schemes, const std::string& folder)
+{
+    const std::string path = folder + "\\contrast.md";
+    std::ofstream file(std::filesystem::path(kiv_base::text::AnsiToUtf(path)), std::ios::binary);
+    file << ContrastTablesMarkdown(schemes);
+    if (!file.flush()) {
+        std::printf("  could not write %s\n", path.c_str());
+        return false;
+    }
+    std::printf("  %s\n", path.c_str());
+    return true;
+}
+
 }  // namespace
 
 bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
@@ -112,7 +146,9 @@ bool RenderSchemeGallery(const CString& scheme, const std::string& folder)
     bool panelSaved = RenderPanel(scheme, folder);
     bool sheetSaved = RenderSheet(scheme, folder);
     bool scrollSaved = RenderScrollSheet(scheme, folder);
-    return RenderMarkupSheet(scheme, folder) && sheetSaved && panelSaved && scrollSaved;
+    bool contrastSaved = RenderContrastSheet(scheme, folder);
+    bool visionSaved = RenderVisionSheet(scheme, folder);
+    return RenderMarkupSheet(scheme, folder) && sheetSaved && panelSaved && scrollSaved && contrastSaved && visionSaved;
 }
 
 bool RenderDpiGallery(const std::string& folder)
@@ -134,7 +170,11 @@ bool RenderGallery(const std::string& folder)
 {
     PrintHeading("Gallery");
     bool allSaved = true;
-    for (const kiv_skin::StyleEntry& entry : kiv_skin::StyleCatalogue::Instance()->m_entries)
-        allSaved = RenderSchemeGallery(entry.name, folder) && allSaved;
-    return allSaved;
+    std::vector<SchemeFigures> figures;
+    for (const kiv_skin::StyleEntry& entry : kiv_skin::StyleCatalogue::Instance()->m_entries) {
+        bool saved = RenderSchemeGallery(entry.name, folder);
+        if (saved) figures.push_back(FiguresOf(entry.name));
+        allSaved = saved && allSaved;
+    }
+    return WriteContrastTables(figures, folder) && allSaved;
 }

@@ -17,7 +17,7 @@ Picture::Picture(int width, int height, COLORREF color) : m_width(width), m_heig
         if (m_bitmap) ::DeleteObject(m_bitmap);
         AfxThrowResourceException();
     }
-    m_bits = static_cast<const uint32_t*>(bits);
+    m_bits = static_cast<uint32_t*>(bits);
     m_previous = ::SelectObject(m_dc.m_hDC, m_bitmap);
     m_dc.FillSolidRect(0, 0, width, height, color);
 }

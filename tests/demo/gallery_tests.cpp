@@ -10,11 +10,8 @@
 #include "demo/scroll_sheet.h"
 #include "kiv_skin/draw/plugin_title.h"
 #include "kiv_skin/style/kiv_style_mgr.h"
-#include "png_reader.h"
+#include "dark_gallery.h"
 #include "support/dib_canvas.h"
-#include "support/test_files.h"
-#include <gtest/gtest.h>
-#include <memory>
 
 using kiv_skin::KivStyleMgr;
 
@@ -65,34 +62,32 @@ int OpaquePixels(const DecodedPng& png)
 
 }  // namespace
 
-class DarkGallery : public testing::Test {
-protected:
-    static void SetUpTestSuite()
-    {
-        s_folder = std::make_unique<ScratchDir>();
-        s_initialised = KivStyleMgr::GetInstance()->InitStyleMgr() == 1;
-        s_written = RenderSchemeGallery("dark", s_folder->dir());
-        s_panel = ReadPng(Wide(s_folder->Path("dark_panel.png")));
-        s_sheet = ReadPng(Wide(s_folder->Path("dark_pieces.png")));
-        s_markup = ReadPng(Wide(s_folder->Path("dark_markup.png")));
-        s_scroll = ReadPng(Wide(s_folder->Path("dark_scroll.png")));
-    }
-    static void TearDownTestSuite() { s_folder.reset(); }
+void DarkGallery::SetUpTestSuite()
+{
+    s_folder = std::make_unique<ScratchDir>();
+    s_initialised = KivStyleMgr::GetInstance()->InitStyleMgr() == 1;
+    s_written = RenderSchemeGallery("dark", s_folder->dir());
+    s_panel = ReadPng(Wide(s_folder->Path("dark_panel.png")));
+    s_sheet = ReadPng(Wide(s_folder->Path("dark_pieces.png")));
+    s_markup = ReadPng(Wide(s_folder->Path("dark_markup.png")));
+    s_scroll = ReadPng(Wide(s_folder->Path("dark_scroll.png")));
+    s_contrast = ReadPng(Wide(s_folder->Path("dark_contrast.png")));
+    s_vision = ReadPng(Wide(s_folder->Path("dark_vision.png")));
+}
 
-    void SetUp() override
-    {
-        ASSERT_TRUE(s_initialised);
-        ASSERT_TRUE(s_written);
-        ASSERT_EQ(S_OK, s_panel.result);
-        ASSERT_EQ(S_OK, s_sheet.result);
-        ASSERT_EQ(S_OK, s_markup.result);
-        ASSERT_EQ(S_OK, s_scroll.result);
-    }
+void DarkGallery::TearDownTestSuite() { s_folder.reset(); }
 
-    static std::unique_ptr<ScratchDir> s_folder;
-    static bool s_initialised, s_written;
-    static DecodedPng s_panel, s_sheet, s_markup, s_scroll;
-};
+void DarkGallery::SetUp()
+{
+    ASSERT_TRUE(s_initialised);
+    ASSERT_TRUE(s_written);
+    ASSERT_EQ(S_OK, s_panel.result);
+    ASSERT_EQ(S_OK, s_sheet.result);
+    ASSERT_EQ(S_OK, s_markup.result);
+    ASSERT_EQ(S_OK, s_scroll.result);
+    ASSERT_EQ(S_OK, s_contrast.result);
+    ASSERT_EQ(S_OK, s_vision.result);
+}
 
 std::unique_ptr<ScratchDir> DarkGallery::s_folder;
 bool DarkGallery::s_initialised = false;
@@ -101,6 +96,8 @@ DecodedPng DarkGallery::s_panel;
 DecodedPng DarkGallery::s_sheet;
 DecodedPng DarkGallery::s_markup;
 DecodedPng DarkGallery::s_scroll;
+DecodedPng DarkGallery::s_contrast;
+DecodedPng DarkGallery::s_vision;
 
 TEST_F(DarkGallery, WritesOpaqueBgraPngFilesOfThePanelAndTheSheet)
 {
@@ -271,6 +268,8 @@ TEST_F(DarkGallery, UnknownSchemeWritesNothing)
     EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_panel.png")));
     EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_pieces.png")));
     EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_markup.png")));
+    EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_contrast.png")));
+    EXPECT_FALSE(FileExists(folder.Path("no_such_scheme_vision.png")));
 }
 
 TEST_F(DarkGallery, FolderThatCannotBeMadeFails)
