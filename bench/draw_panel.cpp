@@ -53,7 +53,7 @@ void KitAxis(CDC* dc, int height)
     KivDraw::DrawAxis(dc, 1, {10, height - 30}, {kWidth - 10, height - 30}, 0, 100, 5, "t", 0xFFFFFFFF, nullptr, 1, 12);
 }
 
-void PanelByKit(CDC* target, int rows)
+void PanelByKit(CDC* target, int rows, bool prices)
 {
     const int height = Height(rows);
     CMemoDC memory(target, kWidth, height, 0);
@@ -64,7 +64,7 @@ void PanelByKit(CDC* target, int rows)
     KivDraw kit;
     for (int i = 0; i < rows; ++i) {
         KitCaptionRow(&memory, i);
-        KitPriceRow(kit, &memory, i);
+        if (prices) KitPriceRow(kit, &memory, i);
     }
     KitAxis(&memory, height);
     memory.SelectObject(previous);
@@ -208,7 +208,7 @@ void RawAxis(HDC hdc, const RawTools& tools, int height)
     SetTextAlign(hdc, TA_LEFT | TA_TOP);
 }
 
-void PanelByHand(CDC* target, int rows)
+void PanelByHand(CDC* target, int rows, bool prices)
 {
     const int height = Height(rows);
     HDC hdc = CreateCompatibleDC(target->m_hDC);
@@ -220,7 +220,7 @@ void PanelByHand(CDC* target, int rows)
     RawRowFont(hdc);
     for (int i = 0; i < rows; ++i) {
         RawCaptionRow(hdc, i);
-        RawPriceRow(hdc, tools, i);
+        if (prices) RawPriceRow(hdc, tools, i);
     }
     RawAxis(hdc, tools, height);
     BitBlt(target->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY);

@@ -19,7 +19,8 @@ HFONT SchemeFontHandle(const char* key);
 int Height(int rows);
 
 // --- By the kit ---
-void PanelByKit(CDC* target, int rows = kRows);
+// Without prices, only for the profile: what the prices cost within a whole panel.
+void PanelByKit(CDC* target, int rows = kRows, bool prices = true);
 void KitCaption(CDC* dc, int top);  // a rich-text caption in the row at top
 void KitFrame(CDC* dc, int height);
 void KitTitle(CDC* dc);
@@ -39,7 +40,7 @@ struct RawTools {
 RawTools MakeRawTools(HDC hdc);
 void FreeRawTools(HDC hdc, const RawTools& tools);
 
-void PanelByHand(CDC* target, int rows = kRows);
+void PanelByHand(CDC* target, int rows = kRows, bool prices = true);
 void CaptionByHand(HDC hdc);  // the caption at (4, 2) of the viewport
 void MarkByHand(HDC hdc, HDC marks, int x, int y, int mark, COLORREF ink);
 void RawFrame(HDC hdc, const RawTools& tools, int height);

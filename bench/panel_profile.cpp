@@ -25,6 +25,14 @@ struct Row {
     double kit, raw;
 };
 
+// A piece drawn by the kit and by hand, timed alternately in the same runs; less is taken off
+// the raw side's median.
+template <class Kit, class Raw> Row Pair(const char* what, Kit kit, Raw raw, double less = 0)
+{
+    Comparison c = Compare(kRuns, 20, [&](int) { kit(); }, [&](int) { raw(); });
+    return {what, c.subject, c.baseline - less};
+}
+
 void PrintRow(const Row& r)
 {
     std::printf("  %-38s %8.1f %8.1f %8.1f\n", r.what, r.kit, r.raw, r.kit - r.raw);
@@ -82,43 +90,44 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
     COLORREF ink = dc->GetTextColor();
     double fill = Cost([&] { PatBlt(hdc, 0, 0, kWidth, height, PATCOPY); });
     Row rows[] = {
-        {"memory surface, made, filled, freed", Cost([&] { CMemoDC memory(kitCanvas, kWidth, height, 0); }),
-         Cost([&] { RawSurface(handCanvas->m_hDC, height, true); }) - fill},
-        {"kit object / the raw panel's tools", Cost([&] { KivDraw made; }),
-         Cost([&] { FreeRawTools(hdc, MakeRawTools(hdc)); })},
-        {"frame", Cost([&] { KitFrame(dc, height); }), Cost([&] { RawFrame(hdc, tools, height); })},
-        {"title", Cost([&] { KitTitle(dc); }), Cost([&] { RawTitle(hdc); })},
-        {"row font and mode", Cost([&] {
-             CFont* previous = dc->SelectObject(const_cast<CFont*>(Scheme()->GetFont("PLUG_STDFONT")));
-             dc->SetBkMode(TRANSPARENT);
-             dc->SelectObject(previous);
-         }), Cost([&] { RawRowFont(hdc); })},
-        {"20 captions", Cost([&] { Rows([&](int i) { KitCaptionRow(dc, i); }); }),
-         Cost([&] { Rows([&](int i) { RawCaptionRow(hdc, i); }); })},
-        {"20 prices with their marks", Cost([&] { Rows([&](int i) { KitPriceRow(kit, dc, i); }); }),
-         Cost([&] { Rows([&](int i) { RawPriceRow(hdc, tools, i); }); })},
-        {"  the same 20 rows, caption and price in turn", Cost([&] {
-             Rows([&](int i) {
-                 KitCaptionRow(dc, i);
-                 KitPriceRow(kit, dc, i);
-             });
-         }), Cost([&] {
-             Rows([&](int i) {
-                 RawCaptionRow(hdc, i);
-                 RawPriceRow(hdc, tools, i);
-             });
-         })},
-        {"axis", Cost([&] { KitAxis(dc, height); }), Cost([&] { RawAxis(hdc, tools, height); })},
-        {"copy out", Cost([&] { kitCanvas->BitBlt(0, 0, kWidth, height, dc, 0, 0, SRCCOPY); }),
-         Cost([&] { BitBlt(handCanvas->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY); })},
+        Pair("memory surface, made, filled, freed", [&] { CMemoDC memory(kitCanvas, kWidth, height, 0); },
+             [&] { RawSurface(handCanvas->m_hDC, height, true); }, fill),
+        Pair("kit object / the raw panel's tools", [&] { KivDraw made; }, [&] { FreeRawTools(hdc, MakeRawTools(hdc)); }),
+        Pair("frame", [&] { KitFrame(dc, height); }, [&] { RawFrame(hdc, tools, height); }),
+        Pair("title", [&] { KitTitle(dc); }, [&] { RawTitle(hdc); }),
+        Pair("row font and mode", [&] {
+            CFont* previous = dc->SelectObject(const_cast<CFont*>(Scheme()->GetFont("PLUG_STDFONT")));
+            dc->SetBkMode(TRANSPARENT);
+            dc->SelectObject(previous);
+        }, [&] { RawRowFont(hdc); }),
+        Pair("20 captions", [&] { Rows([&](int i) { KitCaptionRow(dc, i); }); },
+             [&] { Rows([&](int i) { RawCaptionRow(hdc, i); }); }),
+        Pair("20 prices with their marks", [&] { Rows([&](int i) { KitPriceRow(kit, dc, i); }); },
+             [&] { Rows([&](int i) { RawPriceRow(hdc, tools, i); }); }),
+        Pair("  the same 20 rows, caption and price in turn", [&] {
+            Rows([&](int i) {
+                KitCaptionRow(dc, i);
+                KitPriceRow(kit, dc, i);
+            });
+        }, [&] {
+            Rows([&](int i) {
+                RawCaptionRow(hdc, i);
+                RawPriceRow(hdc, tools, i);
+            });
+        }),
+        Pair("axis", [&] { KitAxis(dc, height); }, [&] { RawAxis(hdc, tools, height); }),
+        Pair("copy out", [&] { kitCanvas->BitBlt(0, 0, kWidth, height, dc, 0, 0, SRCCOPY); },
+             [&] { BitBlt(handCanvas->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY); }),
     };
     RawRowFont(hdc);
-    Row marks = {"  of them the 20 marks", Cost([&] {
-                     Rows([&](int i) { kit.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, ink, 0, 1, false); });
-                 }), Cost([&] { Rows([&](int i) { MarkByHand(hdc, tools.marks, 265, 40 + 20 * i, 3 - i % 2, 0); }); })};
-    double bare = Cost([&] { RawSurface(handCanvas->m_hDC, height, false); });
+    Row marks = Pair("  of them the 20 marks", [&] {
+        Rows([&](int i) { kit.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, ink, 0, 1, false); });
+    }, [&] { Rows([&](int i) { MarkByHand(hdc, tools.marks, 265, 40 + 20 * i, 3 - i % 2, 0); }); });
+    double unpainted = Cost([&] { RawSurface(handCanvas->m_hDC, height, false); });
     Comparison whole =
         Compare(kRuns, 20, [&](int) { PanelByKit(kitCanvas); }, [&](int) { PanelByHand(handCanvas); });
+    Comparison bare =
+        Compare(kRuns, 20, [&](int) { PanelByKit(kitCanvas, kRows, false); }, [&](int) { PanelByHand(handCanvas, kRows, false); });
     SelectObject(hdc, previousFont);
     FreeRawTools(hdc, tools);
     kitSurface.SelectObject(previousKitFont);
@@ -130,7 +139,7 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
         if (&r == &rows[0])
             std::printf("    (raw: made, painted once and freed, less one paint of touched memory %.1f; made and\n"
                         "    freed unpainted %.1f: a new bitmap's memory is touched first by its first paint)\n",
-                        fill, bare);
+                        fill, unpainted);
         if (&r == &rows[6]) PrintRow(marks);
         if (r.what[0] == ' ') continue;  // a check of the rows above, not a piece
         sum.kit += r.kit;
@@ -139,6 +148,8 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
     PrintRow(sum);
     PrintRow({"whole panel, timed in the same run", whole.subject, whole.baseline});
     PrintRow({"not accounted for by the pieces", whole.subject - sum.kit, whole.baseline - sum.raw});
+    PrintRow({"the 20 prices within the whole panel", whole.subject - bare.subject, whole.baseline - bare.baseline});
+    std::printf("    (the whole panel less the same panel without its prices)\n");
 }
 
 // A mark in raw GDI with a memory context of its own, made, selected and freed around the copies.
@@ -217,11 +228,40 @@ void PrintPrices(CDC* dc)
                 c.ratio, c.ratioLow, c.ratioHigh);
 }
 
+// The scheme look-ups of one panel, which every piece above makes at drawing time: the kit's 46
+// colours (two per caption, the frame's, title's, axis's and the kit object's), 3 fonts and 22
+// bitmaps (one per mark, two for the kit object); the raw panel's 46 colours, 3 fonts, 1 bitmap.
+void PrintLookups()
+{
+    const char* const colours[6] = {"PLUG_BGCOLOR", "PLUG_FRAME", "PLUG_TITLE_BGCOLOR", "PLUG_TITLE_TEXT", "AXIS", "PLUG_FRAME"};
+    const char* const fonts[3] = {"PLUG_TITLE", "PLUG_STDFONT", "SMALL"};
+    auto common = [&] {
+        for (const char* key : colours) Scheme()->GetColor(key);
+        Rows([&](int) {
+            Scheme()->GetColor("UPTEXT");
+            Scheme()->GetColor("EQUTEXT");
+        });
+        for (const char* key : fonts) Scheme()->GetFont(key);
+    };
+    Row lookups = Pair("scheme look-ups", [&] {
+        common();
+        Scheme()->GetBitmap("KIV_DOT");
+        Scheme()->GetBitmap("KIV_FRAME");
+        Rows([&](int) { Scheme()->GetBitmap("KIV_MARK"); });
+    }, [&] {
+        common();
+        Scheme()->GetBitmap("KIV_MARK");
+    });
+    std::printf("  of the pieces above, their scheme look-ups (kit: 46 colours, 3 fonts, 22 bitmaps; raw: 46, 3, 1):\n"
+                "  kit %.1f us, raw %.1f us\n", lookups.kit, lookups.raw);
+}
+
 }  // namespace
 
 void PrintPanelProfile(DibCanvas& kit, DibCanvas& hand)
 {
     PrintPieces(kit.dc(), hand.dc());
+    PrintLookups();
     PrintMark(kit.dc(), hand.dc()->m_hDC);
     PrintPrices(kit.dc());
 }
