@@ -1,13 +1,15 @@
 // Where a panel repaint's time goes: every piece of the panel (draw_panel.h) timed alone, the
-// kit's beside the raw calls that draw the same pixels, and their sum beside the whole panel
-// timed in the same run, so that what no piece accounts for shows as such. Then the sign mark
-// and the price taken apart into the calls they make.
+// kit's beside the raw calls that draw the same pixels, all in turn within each run, and their
+// sum beside the whole panel timed in the same runs, so that what no piece accounts for shows.
+// Then the panel's scheme look-ups, and the sign mark and the price taken apart into their calls.
 #include "bench/panel_profile.h"
 #include "bench/bench_timer.h"
 #include "bench/draw_panel.h"
 #include "kiv_skin/display/memo_dc.h"
 #include <cstdio>
 #include <cstring>
+#include <functional>
+#include <vector>
 
 using namespace panel;
 using kiv_skin::CMemoDC;
@@ -25,12 +27,11 @@ struct Row {
     double kit, raw;
 };
 
-// A piece drawn by the kit and by hand, timed alternately in the same runs; less is taken off
-// the raw side's median.
-template <class Kit, class Raw> Row Pair(const char* what, Kit kit, Raw raw, double less = 0)
+// Something done by the kit and by hand, timed alternately in the same runs.
+template <class Kit, class Raw> Row Pair(const char* what, Kit kit, Raw raw)
 {
     Comparison c = Compare(kRuns, 20, [&](int) { kit(); }, [&](int) { raw(); });
-    return {what, c.subject, c.baseline - less};
+    return {what, c.subject, c.baseline};
 }
 
 void PrintRow(const Row& r)
@@ -72,6 +73,35 @@ template <class Each> void Rows(Each each)
     for (int i = 0; i < kRows; ++i) each(i);
 }
 
+// A piece of the panel drawn by the kit and by hand. A part of the piece before it and a check
+// of the pieces above are printed but not added up; the panels are the wholes the pieces sum to.
+struct Piece {
+    enum Kind { kPiece, kPart, kCheck, kPanel, kPanelWithoutPrices };
+    const char* what;
+    std::function<void()> kit, raw;
+    Kind kind = kPiece;
+};
+
+// Times every piece, kit and raw alternately, in turn within each run, so that what the machine
+// does meanwhile falls on all of them alike; answers each side's medians.
+std::vector<Row> TimeInTurn(const std::vector<Piece>& pieces, const std::function<void()>& beforeEachRun)
+{
+    std::vector<std::vector<double>> kit(pieces.size()), raw(pieces.size());
+    for (int r = 0; r < kRuns; ++r) {
+        beforeEachRun();
+        for (size_t p = 0; p < pieces.size(); ++p) {
+            auto byKit = [&](int) { pieces[p].kit(); };
+            auto byHand = [&](int) { pieces[p].raw(); };
+            if (r % 2 == 0) raw[p].push_back(MicrosecondsPerCall(20, byHand));
+            kit[p].push_back(MicrosecondsPerCall(20, byKit));
+            if (r % 2 != 0) raw[p].push_back(MicrosecondsPerCall(20, byHand));
+        }
+    }
+    std::vector<Row> rows;
+    for (size_t p = 0; p < pieces.size(); ++p) rows.push_back({pieces[p].what, Quantile(kit[p], 0.5), Quantile(raw[p], 0.5)});
+    return rows;
+}
+
 // The panel's pieces in the order it draws them, each timed in a memory surface as the panel
 // draws it, with their total beside the whole panel drawn on the canvases.
 void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
@@ -86,69 +116,75 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
     KivDraw kit;
     RawTools tools = MakeRawTools(hdc);
     HGDIOBJ previousFont = RawTitle(hdc);
-    RawRowFont(hdc);
     COLORREF ink = dc->GetTextColor();
     double fill = Cost([&] { PatBlt(hdc, 0, 0, kWidth, height, PATCOPY); });
-    Row rows[] = {
-        Pair("memory surface, made, filled, freed", [&] { CMemoDC memory(kitCanvas, kWidth, height, 0); },
-             [&] { RawSurface(handCanvas->m_hDC, height, true); }, fill),
-        Pair("kit object / the raw panel's tools", [&] { KivDraw made; }, [&] { FreeRawTools(hdc, MakeRawTools(hdc)); }),
-        Pair("frame", [&] { KitFrame(dc, height); }, [&] { RawFrame(hdc, tools, height); }),
-        Pair("title", [&] { KitTitle(dc); }, [&] { RawTitle(hdc); }),
-        Pair("row font and mode", [&] {
-            CFont* previous = dc->SelectObject(const_cast<CFont*>(Scheme()->GetFont("PLUG_STDFONT")));
-            dc->SetBkMode(TRANSPARENT);
-            dc->SelectObject(previous);
-        }, [&] { RawRowFont(hdc); }),
-        Pair("20 captions", [&] { Rows([&](int i) { KitCaptionRow(dc, i); }); },
-             [&] { Rows([&](int i) { RawCaptionRow(hdc, i); }); }),
-        Pair("20 prices with their marks", [&] { Rows([&](int i) { KitPriceRow(kit, dc, i); }); },
-             [&] { Rows([&](int i) { RawPriceRow(hdc, tools, i); }); }),
-        Pair("  the same 20 rows, caption and price in turn", [&] {
-            Rows([&](int i) {
-                KitCaptionRow(dc, i);
-                KitPriceRow(kit, dc, i);
-            });
-        }, [&] {
-            Rows([&](int i) {
-                RawCaptionRow(hdc, i);
-                RawPriceRow(hdc, tools, i);
-            });
-        }),
-        Pair("axis", [&] { KitAxis(dc, height); }, [&] { RawAxis(hdc, tools, height); }),
-        Pair("copy out", [&] { kitCanvas->BitBlt(0, 0, kWidth, height, dc, 0, 0, SRCCOPY); },
-             [&] { BitBlt(handCanvas->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY); }),
-    };
-    RawRowFont(hdc);
-    Row marks = Pair("  of them the 20 marks", [&] {
-        Rows([&](int i) { kit.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, ink, 0, 1, false); });
-    }, [&] { Rows([&](int i) { MarkByHand(hdc, tools.marks, 265, 40 + 20 * i, 3 - i % 2, 0); }); });
     double unpainted = Cost([&] { RawSurface(handCanvas->m_hDC, height, false); });
-    Comparison whole =
-        Compare(kRuns, 20, [&](int) { PanelByKit(kitCanvas); }, [&](int) { PanelByHand(handCanvas); });
-    Comparison bare =
-        Compare(kRuns, 20, [&](int) { PanelByKit(kitCanvas, kRows, false); }, [&](int) { PanelByHand(handCanvas, kRows, false); });
+    std::vector<Piece> pieces = {
+        {"memory surface, made, filled, freed", [&] { CMemoDC memory(kitCanvas, kWidth, height, 0); },
+         [&] { RawSurface(handCanvas->m_hDC, height, true); }},
+        {"kit object / the raw panel's tools", [&] { KivDraw made; }, [&] { FreeRawTools(hdc, MakeRawTools(hdc)); }},
+        {"frame", [&] { KitFrame(dc, height); }, [&] { RawFrame(hdc, tools, height); }},
+        {"title", [&] { KitTitle(dc); }, [&] { RawTitle(hdc); }},
+        {"row font and mode", [&] {
+             CFont* previous = dc->SelectObject(const_cast<CFont*>(Scheme()->GetFont("PLUG_STDFONT")));
+             dc->SetBkMode(TRANSPARENT);
+             dc->SelectObject(previous);
+         }, [&] { RawRowFont(hdc); }},
+        {"20 captions", [&] { Rows([&](int i) { KitCaptionRow(dc, i); }); },
+         [&] { Rows([&](int i) { RawCaptionRow(hdc, i); }); }},
+        {"20 prices with their marks", [&] { Rows([&](int i) { KitPriceRow(kit, dc, i); }); },
+         [&] { Rows([&](int i) { RawPriceRow(hdc, tools, i); }); }},
+        {"  of them the 20 marks",
+         [&] { Rows([&](int i) { kit.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, ink, 0, 1, false); }); },
+         [&] { Rows([&](int i) { MarkByHand(hdc, tools.marks, 265, 40 + 20 * i, 3 - i % 2, 0); }); }, Piece::kPart},
+        {"  the same 20 rows, caption and price in turn", [&] {
+             Rows([&](int i) {
+                 KitCaptionRow(dc, i);
+                 KitPriceRow(kit, dc, i);
+             });
+         }, [&] {
+             Rows([&](int i) {
+                 RawCaptionRow(hdc, i);
+                 RawPriceRow(hdc, tools, i);
+             });
+         }, Piece::kCheck},
+        {"axis", [&] { KitAxis(dc, height); }, [&] { RawAxis(hdc, tools, height); }},
+        {"copy out", [&] { kitCanvas->BitBlt(0, 0, kWidth, height, dc, 0, 0, SRCCOPY); },
+         [&] { BitBlt(handCanvas->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY); }},
+        {"whole panel", [&] { PanelByKit(kitCanvas); }, [&] { PanelByHand(handCanvas); }, Piece::kPanel},
+        {"panel without prices", [&] { PanelByKit(kitCanvas, kRows, false); },
+         [&] { PanelByHand(handCanvas, kRows, false); }, Piece::kPanelWithoutPrices},
+    };
+    // The raw axis leaves its pen and font selected; each run starts as the raw panel does.
+    std::vector<Row> rows = TimeInTurn(pieces, [&] {
+        SelectObject(hdc, tools.ink);
+        RawRowFont(hdc);
+    });
     SelectObject(hdc, previousFont);
     FreeRawTools(hdc, tools);
     kitSurface.SelectObject(previousKitFont);
 
-    std::printf("  panel profile, us per panel             kit      raw      gap\n");
-    Row sum = {"sum of the pieces", 0, 0};
-    for (const Row& r : rows) {
+    rows[0].raw -= fill;
+    std::printf("  panel profile, medians in us per panel      kit      raw      gap\n");
+    Row sum = {"sum of the pieces", 0, 0}, whole = sum, bare = sum;
+    for (size_t p = 0; p < pieces.size(); ++p) {
+        const Row& r = rows[p];
+        if (pieces[p].kind == Piece::kPanel) whole = r;
+        if (pieces[p].kind == Piece::kPanelWithoutPrices) bare = r;
+        if (pieces[p].kind >= Piece::kPanel) continue;
         PrintRow(r);
-        if (&r == &rows[0])
+        if (p == 0)
             std::printf("    (raw: made, painted once and freed, less one paint of touched memory %.1f; made and\n"
                         "    freed unpainted %.1f: a new bitmap's memory is touched first by its first paint)\n",
                         fill, unpainted);
-        if (&r == &rows[6]) PrintRow(marks);
-        if (r.what[0] == ' ') continue;  // a check of the rows above, not a piece
+        if (pieces[p].kind != Piece::kPiece) continue;
         sum.kit += r.kit;
         sum.raw += r.raw;
     }
     PrintRow(sum);
-    PrintRow({"whole panel, timed in the same run", whole.subject, whole.baseline});
-    PrintRow({"not accounted for by the pieces", whole.subject - sum.kit, whole.baseline - sum.raw});
-    PrintRow({"the 20 prices within the whole panel", whole.subject - bare.subject, whole.baseline - bare.baseline});
+    PrintRow({"whole panel, timed in the same runs", whole.kit, whole.raw});
+    PrintRow({"not accounted for by the pieces", whole.kit - sum.kit, whole.raw - sum.raw});
+    PrintRow({"the 20 prices within the whole panel", whole.kit - bare.kit, whole.raw - bare.raw});
     std::printf("    (the whole panel less the same panel without its prices)\n");
 }
 
@@ -162,29 +198,30 @@ void MarkWithItsContext(HDC hdc, HGDIOBJ strip)
     DeleteDC(marks);
 }
 
-// One sign mark taken apart: the scheme look-up, its memory context (and the raw calls that
-// context makes), and the two copies with their colours, which the raw mark also makes.
+// One sign mark taken apart: the same steps in raw GDI with a memory context of its own, the
+// calls that context costs, and what the kit adds (its scheme look-up, the rest). Beside it, what
+// a CMemoDC on the strip costs, which a mark no longer makes (its handle-map entries, its size).
 void PrintMark(CDC* dc, HDC hdc)
 {
     KivDraw kit;
     CBitmap* strip = const_cast<CBitmap*>(Scheme()->GetBitmap("KIV_MARK"));
     HDC spare = CreateCompatibleDC(hdc);
     BITMAP info;
-    double mark = Cost([&] { kit.DrawArrow(dc, 265, 40, 3, 0, 0, 1, false); });
+    Comparison mark = Compare(kRuns, 20, [&](int) { kit.DrawArrow(dc, 265, 40, 3, 0, 0, 1, false); },
+                              [&](int) { MarkWithItsContext(hdc, strip->m_hObject); });
     double lookup = Cost([&] { Scheme()->GetBitmap("KIV_MARK"); });
-    double context = Cost([&] { CMemoDC marks(dc, strip); });
     double made = Cost([&] { DeleteDC(CreateCompatibleDC(hdc)); });
     double selects = Cost([&] { SelectObject(spare, SelectObject(spare, strip->m_hObject)); });
-    double size = Cost([&] { GetObjectA(strip->m_hObject, sizeof info, &info); });
     double drawing = Cost([&] { MarkByHand(hdc, spare, 265, 40, 3, 0); });
-    double own = Cost([&] { MarkWithItsContext(hdc, strip->m_hObject); });
+    double memoDC = Cost([&] { CMemoDC marks(dc, strip); });
+    double size = Cost([&] { GetObjectA(strip->m_hObject, sizeof info, &info); });
     DeleteDC(spare);
-    std::printf("  one mark %.2f us: scheme look-up %.2f, memory context %.2f (CreateCompatibleDC and DeleteDC %.2f,\n"
-                "  the strip selected and put back %.2f, its size read %.2f, the framework's handle maps and the\n"
-                "  rest %.2f), the copies and colours as raw GDI makes them %.2f; the rest %.2f. In raw GDI\n"
-                "  with a context of its own, as the mark's steps make one: %.2f us\n",
-                mark, lookup, context, made, selects, size, context - made - selects - size, drawing,
-                mark - lookup - context - drawing, own);
+    std::printf("  one mark %.2f us, ratio %.2f (%.2f-%.2f) to its steps in raw GDI, %.2f us: CreateCompatibleDC and\n"
+                "  DeleteDC %.2f, the strip selected and put back %.2f, the copies and colours %.2f, the rest (the\n"
+                "  first copies from a new context) %.2f; the kit's own: its scheme look-up %.2f, the rest %.2f.\n"
+                "  A CMemoDC on the strip, as marks made before: %.2f us (its size read %.2f)\n",
+                mark.subject, mark.ratio, mark.ratioLow, mark.ratioHigh, mark.baseline, made, selects, drawing,
+                mark.baseline - made - selects - drawing, lookup, mark.subject - mark.baseline - lookup, memoDC, size);
 }
 
 // A price in raw GDI as the kit's steps draw it: its alignment kept and put back, the mark with
