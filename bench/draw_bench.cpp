@@ -304,6 +304,8 @@ int main()
     if (!SamePicture("panel", kit, hand)) return 1;
     Print("panel repaint", Compare(kRuns, 20, [&](int) { PanelByKit(kit.dc()); }, [&](int) { PanelByHand(hand.dc()); }),
           "<= 1.3");
+    PanelByHand(hand.dc(), kRows, kPricesBySteps);
+    if (!SamePicture("panel, raw by the kit's steps for prices,", kit, hand)) return 1;
     PrintPanelProfile(kit, hand);
     PrintSchemeSwitch(kit, hand);
     bool grown = PrintCaptionGrowth() && PrintPanelGrowth();

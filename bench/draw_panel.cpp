@@ -91,6 +91,35 @@ void PriceByHand(HDC hdc, HDC marks, int x, int y, const char* price)
     LineTo(hdc, x + 11 + whole.cx + part.cx, y + whole.cy - 1);
 }
 
+// A price in raw GDI as the kit's steps draw it: its alignment kept and put back, the mark with
+// a memory context of its own, the underline with a pen of its own, the position put back.
+void PriceBySteps(HDC hdc, int x, int y, const char* price)
+{
+    const char* point = std::strrchr(price, '.');
+    const char* integral = price + 1;
+    int wholeLength = static_cast<int>(point - integral), partLength = static_cast<int>(std::strlen(point + 1));
+    SIZE whole, part;
+    GetTextExtentPoint32A(hdc, integral, wholeLength, &whole);
+    GetTextExtentPoint32A(hdc, point + 1, partLength, &part);
+    UINT align = GetTextAlign(hdc);
+    SetTextAlign(hdc, align & ~(TA_RIGHT | TA_CENTER));
+    ExtTextOutA(hdc, x + 11, y, 0, nullptr, integral, wholeLength, nullptr);
+    ExtTextOutA(hdc, x + 11 + whole.cx, y, 0, nullptr, point + 1, partLength, nullptr);
+    HDC marks = CreateCompatibleDC(hdc);
+    HGDIOBJ previousStrip = SelectObject(marks, Scheme()->GetBitmap("KIV_MARK")->m_hObject);
+    MarkByHand(hdc, marks, x + 5, y + whole.cy - 8, price[0] == '+' ? 3 : 2, GetTextColor(hdc));
+    SelectObject(marks, previousStrip);
+    DeleteDC(marks);
+    HPEN pen = CreatePen(PS_SOLID, 1, GetTextColor(hdc));
+    HGDIOBJ previousPen = SelectObject(hdc, pen);
+    POINT position;
+    MoveToEx(hdc, x + 11 + whole.cx, y + whole.cy - 1, &position);
+    LineTo(hdc, x + 11 + whole.cx + part.cx, y + whole.cy - 1);
+    MoveToEx(hdc, position.x, position.y, nullptr);
+    DeleteObject(SelectObject(hdc, previousPen));
+    SetTextAlign(hdc, align);
+}
+
 }  // namespace
 
 void CaptionByHand(HDC hdc)
@@ -183,6 +212,12 @@ void RawPriceRow(HDC hdc, const RawTools& tools, int row)
     PriceByHand(hdc, tools.marks, 260, RowTop(row) + 2, kPrices[row % 2]);
 }
 
+void RawPriceRowBySteps(HDC hdc, int row)
+{
+    SetTextColor(hdc, RGB(0, 0, 0));
+    PriceBySteps(hdc, 260, RowTop(row) + 2, kPrices[row % 2]);
+}
+
 void RawAxis(HDC hdc, const RawTools& tools, int height)
 {
     int y = height - 30, left = 10, right = kWidth - 10;
@@ -208,7 +243,7 @@ void RawAxis(HDC hdc, const RawTools& tools, int height)
     SetTextAlign(hdc, TA_LEFT | TA_TOP);
 }
 
-void PanelByHand(CDC* target, int rows, bool prices)
+void PanelByHand(CDC* target, int rows, RawPrices prices)
 {
     const int height = Height(rows);
     HDC hdc = CreateCompatibleDC(target->m_hDC);
@@ -220,7 +255,8 @@ void PanelByHand(CDC* target, int rows, bool prices)
     RawRowFont(hdc);
     for (int i = 0; i < rows; ++i) {
         RawCaptionRow(hdc, i);
-        if (prices) RawPriceRow(hdc, tools, i);
+        if (prices == kPricesByFewestCalls) RawPriceRow(hdc, tools, i);
+        if (prices == kPricesBySteps) RawPriceRowBySteps(hdc, i);
     }
     RawAxis(hdc, tools, height);
     BitBlt(target->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY);

@@ -40,7 +40,10 @@ struct RawTools {
 RawTools MakeRawTools(HDC hdc);
 void FreeRawTools(HDC hdc, const RawTools& tools);
 
-void PanelByHand(CDC* target, int rows = kRows, bool prices = true);
+// The prices with the fewest calls (one marks context and one underline pen for all), or as the
+// kit's steps draw them (RawPriceRowBySteps), or none.
+enum RawPrices { kPricesByFewestCalls, kPricesBySteps, kNoPrices };
+void PanelByHand(CDC* target, int rows = kRows, RawPrices prices = kPricesByFewestCalls);
 void CaptionByHand(HDC hdc);  // the caption at (4, 2) of the viewport
 void MarkByHand(HDC hdc, HDC marks, int x, int y, int mark, COLORREF ink);
 void RawFrame(HDC hdc, const RawTools& tools, int height);
@@ -48,6 +51,9 @@ HGDIOBJ RawTitle(HDC hdc);  // answers the font it replaced
 void RawRowFont(HDC hdc);
 void RawCaptionRow(HDC hdc, int row);
 void RawPriceRow(HDC hdc, const RawTools& tools, int row);
+// The price as the kit's steps draw it: its alignment kept and put back, the mark with a memory
+// context of its own, the underline with a pen of its own, the position put back.
+void RawPriceRowBySteps(HDC hdc, int row);
 void RawAxis(HDC hdc, const RawTools& tools, int height);
 
 }  // namespace panel

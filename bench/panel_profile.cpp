@@ -76,7 +76,7 @@ template <class Each> void Rows(Each each)
 // A piece of the panel drawn by the kit and by hand. A part of the piece before it and a check
 // of the pieces above are printed but not added up; the panels are the wholes the pieces sum to.
 struct Piece {
-    enum Kind { kPiece, kPart, kCheck, kPanel, kPanelWithoutPrices };
+    enum Kind { kPiece, kPart, kCheck, kPanel, kPanelWithoutPrices, kPanelBySteps };
     const char* what;
     std::function<void()> kit, raw;
     Kind kind = kPiece;
@@ -148,12 +148,25 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
                  RawPriceRow(hdc, tools, i);
              });
          }, Piece::kCheck},
+        {"  the same, raw by the kit's steps for prices", [&] {
+             Rows([&](int i) {
+                 KitCaptionRow(dc, i);
+                 KitPriceRow(kit, dc, i);
+             });
+         }, [&] {
+             Rows([&](int i) {
+                 RawCaptionRow(hdc, i);
+                 RawPriceRowBySteps(hdc, i);
+             });
+         }, Piece::kCheck},
         {"axis", [&] { KitAxis(dc, height); }, [&] { RawAxis(hdc, tools, height); }},
         {"copy out", [&] { kitCanvas->BitBlt(0, 0, kWidth, height, dc, 0, 0, SRCCOPY); },
          [&] { BitBlt(handCanvas->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY); }},
         {"whole panel", [&] { PanelByKit(kitCanvas); }, [&] { PanelByHand(handCanvas); }, Piece::kPanel},
         {"panel without prices", [&] { PanelByKit(kitCanvas, kRows, false); },
-         [&] { PanelByHand(handCanvas, kRows, false); }, Piece::kPanelWithoutPrices},
+         [&] { PanelByHand(handCanvas, kRows, kNoPrices); }, Piece::kPanelWithoutPrices},
+        {"panel, raw by the kit's steps for prices", [&] { PanelByKit(kitCanvas); },
+         [&] { PanelByHand(handCanvas, kRows, kPricesBySteps); }, Piece::kPanelBySteps},
     };
     // The raw axis leaves its pen and font selected; each run starts as the raw panel does.
     std::vector<Row> rows = TimeInTurn(pieces, [&] {
@@ -166,11 +179,12 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
 
     rows[0].raw -= fill;
     std::printf("  panel profile, medians in us per panel      kit      raw      gap\n");
-    Row sum = {"sum of the pieces", 0, 0}, whole = sum, bare = sum;
+    Row sum = {"sum of the pieces", 0, 0}, whole = sum, bare = sum, steps = sum;
     for (size_t p = 0; p < pieces.size(); ++p) {
         const Row& r = rows[p];
         if (pieces[p].kind == Piece::kPanel) whole = r;
         if (pieces[p].kind == Piece::kPanelWithoutPrices) bare = r;
+        if (pieces[p].kind == Piece::kPanelBySteps) steps = r;
         if (pieces[p].kind >= Piece::kPanel) continue;
         PrintRow(r);
         if (p == 0)
@@ -186,6 +200,9 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
     PrintRow({"not accounted for by the pieces", whole.kit - sum.kit, whole.raw - sum.raw});
     PrintRow({"the 20 prices within the whole panel", whole.kit - bare.kit, whole.raw - bare.raw});
     std::printf("    (the whole panel less the same panel without its prices)\n");
+    PrintRow({"raw panel by the kit's steps for prices", whole.kit, steps.raw});
+    std::printf("    (a marks context and an underline pen per price, alignment and position put back:\n"
+                "    what the described steps of a price cost in raw GDI; ratio %.2f)\n", whole.kit / steps.raw);
 }
 
 // A mark in raw GDI with a memory context of its own, made, selected and freed around the copies.
@@ -224,42 +241,12 @@ void PrintMark(CDC* dc, HDC hdc)
                 mark.baseline - made - selects - drawing, lookup, mark.subject - mark.baseline - lookup, memoDC, size);
 }
 
-// A price in raw GDI as the kit's steps draw it: its alignment kept and put back, the mark with
-// a memory context of its own, the underline with a pen of its own, the position put back.
-void PriceBySteps(HDC hdc, HGDIOBJ strip, int x, int y, const char* price)
-{
-    const char* point = std::strrchr(price, '.');
-    const char* integral = price + 1;
-    int wholeLength = static_cast<int>(point - integral), partLength = static_cast<int>(std::strlen(point + 1));
-    SIZE whole, part;
-    GetTextExtentPoint32A(hdc, integral, wholeLength, &whole);
-    GetTextExtentPoint32A(hdc, point + 1, partLength, &part);
-    UINT align = GetTextAlign(hdc);
-    SetTextAlign(hdc, align & ~(TA_RIGHT | TA_CENTER));
-    ExtTextOutA(hdc, x + 11, y, 0, nullptr, integral, wholeLength, nullptr);
-    ExtTextOutA(hdc, x + 11 + whole.cx, y, 0, nullptr, point + 1, partLength, nullptr);
-    HDC marks = CreateCompatibleDC(hdc);
-    HGDIOBJ previousStrip = SelectObject(marks, strip);
-    MarkByHand(hdc, marks, x + 5, y + whole.cy - 8, price[0] == '+' ? 3 : 2, GetTextColor(hdc));
-    SelectObject(marks, previousStrip);
-    DeleteDC(marks);
-    HPEN pen = CreatePen(PS_SOLID, 1, GetTextColor(hdc));
-    HGDIOBJ previousPen = SelectObject(hdc, pen);
-    POINT position;
-    MoveToEx(hdc, x + 11 + whole.cx, y + whole.cy - 1, &position);
-    LineTo(hdc, x + 11 + whole.cx + part.cx, y + whole.cy - 1);
-    MoveToEx(hdc, position.x, position.y, nullptr);
-    DeleteObject(SelectObject(hdc, previousPen));
-    SetTextAlign(hdc, align);
-}
-
 // The kit's 20 prices beside the same steps in raw GDI, both on the kit's canvas.
 void PrintPrices(CDC* dc)
 {
     KivDraw kit;
-    HGDIOBJ strip = Scheme()->GetBitmap("KIV_MARK")->m_hObject;
     Comparison c = Compare(kRuns, 20, [&](int) { Rows([&](int i) { KitPriceRow(kit, dc, i); }); },
-                           [&](int) { Rows([&](int i) { PriceBySteps(dc->m_hDC, strip, 260, 28 + 20 * i, kPrices[i % 2]); }); });
+                           [&](int) { Rows([&](int i) { RawPriceRowBySteps(dc->m_hDC, i); }); });
     std::printf("  20 prices %.1f us; the same steps in raw GDI (a marks context and an underline pen per price,\n"
                 "  alignment and position put back) %.1f us, ratio %.2f (%.2f-%.2f)\n", c.subject, c.baseline,
                 c.ratio, c.ratioLow, c.ratioHigh);
