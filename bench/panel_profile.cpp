@@ -36,7 +36,7 @@ template <class Kit, class Raw> Row Pair(const char* what, Kit kit, Raw raw)
 
 void PrintRow(const Row& r)
 {
-    std::printf("  %-38s %8.1f %8.1f %8.1f\n", r.what, r.kit, r.raw, r.kit - r.raw);
+    std::printf("  %-46s %8.1f %8.1f %8.1f\n", r.what, r.kit, r.raw, r.kit - r.raw);
 }
 
 // A memory context and bitmap as the raw panel makes them, freed after one PatBlt (white, the
@@ -178,7 +178,7 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
     kitSurface.SelectObject(previousKitFont);
 
     rows[0].raw -= fill;
-    std::printf("  panel profile, medians in us per panel      kit      raw      gap\n");
+    std::printf("  panel profile, medians in us per panel              kit      raw      gap\n");
     Row sum = {"sum of the pieces", 0, 0}, whole = sum, bare = sum, steps = sum;
     for (size_t p = 0; p < pieces.size(); ++p) {
         const Row& r = rows[p];
