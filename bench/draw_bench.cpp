@@ -9,10 +9,8 @@
 // - the growth: a caption against its number of tags, a panel against its number of rows.
 // The machine's load is printed first: on a shared machine only same-run ratios mean much.
 #include "bench/bench_timer.h"
-#include "kiv_skin/display/memo_dc.h"
-#include "kiv_skin/draw/kiv_draw.h"
-#include "kiv_skin/draw/plugin_title.h"
-#include "kiv_skin/style/kiv_style_mgr.h"
+#include "bench/draw_panel.h"
+#include "bench/panel_profile.h"
 #include "kiv_skin/style/style_catalogue.h"
 #include "support/dib_canvas.h"
 #include <algorithm>
@@ -23,21 +21,11 @@
 #include <vector>
 
 using namespace kiv_skin;
+using namespace panel;
 
 namespace {
 
 const int kRuns = 41;
-const int kWidth = 360, kRows = 20, kRowHeight = 20, kTop = 24;
-const char kCaption[] = "<*sc=UPTEXT*>600519<*sc=EQUTEXT*> 1688.00<*c=FF*> +2.35%";
-const char kTitle[] = "\xE8\x87\xAA\xE9\x80\x89\xE8\x82\xA1";  // 自选股 in UTF-8
-const wchar_t kTitleWide[] = L"\x81EA\x9009\x80A1";
-const char* const kPrices[2] = {"+12.50", "-3.21"};
-
-KivStyleMgr* Scheme() { return KivStyleMgr::GetInstance(); }
-HFONT SchemeFontHandle(const char* key) { return static_cast<HFONT>(Scheme()->GetFont(key)->m_hObject); }
-
-// A panel of rows rows: title, rows, and room for the axis below them (480 high at 20 rows).
-int PanelHeight(int rows) { return kTop + 2 + rows * kRowHeight + 54; }
 
 // How many pixels two canvases hold differently.
 int Differences(const DibCanvas& a, const DibCanvas& b)
@@ -73,150 +61,6 @@ void CaptionByKit(CDC* dc)
 {
     CRect rect(0, 0, kWidth, kRowHeight);
     KivDraw::DrawRichText(dc, &rect, kCaption, CRect(4, 2, 0, 0), 0, 100);
-}
-
-void CaptionByHand(HDC hdc)
-{
-    UINT align = SetTextAlign(hdc, TA_UPDATECP);
-    POINT position;
-    MoveToEx(hdc, 4, 2, &position);
-    COLORREF ink = SetTextColor(hdc, Scheme()->GetColor("UPTEXT"));
-    ExtTextOutW(hdc, 0, 0, 0, nullptr, L"600519", 6, nullptr);
-    SetTextColor(hdc, Scheme()->GetColor("EQUTEXT"));
-    ExtTextOutW(hdc, 0, 0, 0, nullptr, L" 1688.00", 8, nullptr);
-    SetTextColor(hdc, RGB(255, 0, 0));
-    ExtTextOutW(hdc, 0, 0, 0, nullptr, L" +2.35%", 7, nullptr);
-    SetTextColor(hdc, ink);
-    MoveToEx(hdc, position.x, position.y, nullptr);
-    SetTextAlign(hdc, align);
-}
-
-// --- The panel ----------------------------------------------------------------------------------
-
-void PanelByKit(CDC* target, int rows = kRows)
-{
-    const int height = PanelHeight(rows);
-    CMemoDC memory(target, kWidth, height, 0);
-    CRect all(0, 0, kWidth, height);
-    KivDraw::DrawPluginFrame(&memory, &all);
-    PluginTitle(kTitle).Draw(&memory, CRect(1, 1, kWidth - 1, kTop));
-    CFont* previous = memory.SelectObject(const_cast<CFont*>(Scheme()->GetFont("PLUG_STDFONT")));
-    memory.SetBkMode(TRANSPARENT);
-    KivDraw kit;
-    for (int i = 0; i < rows; ++i) {
-        int top = kTop + 2 + i * kRowHeight;
-        CRect row(0, top, 240, top + kRowHeight);
-        KivDraw::DrawRichText(&memory, &row, kCaption, CRect(4, 2, 0, 0), 0, 100);
-        kit.DrawUL(&memory, 260, top + 2, kPrices[i % 2], 1);
-    }
-    KivDraw::DrawAxis(&memory, 1, {10, height - 30}, {kWidth - 10, height - 30}, 0, 100, 5, "t", 0xFFFFFFFF,
-                      nullptr, 1, 12);
-    memory.SelectObject(previous);
-    target->BitBlt(0, 0, kWidth, height, &memory, 0, 0, SRCCOPY);
-}
-
-void TextAt(HDC hdc, int x, int y, const char* text) { TextOutA(hdc, x, y, text, static_cast<int>(std::strlen(text))); }
-
-// A mark of the scheme's strip at scale 1, as two copies through the strip's one-bit pixels.
-void MarkByHand(HDC hdc, HDC marks, int x, int y, int mark, COLORREF ink)
-{
-    COLORREF text = SetTextColor(hdc, 0), back = SetBkColor(hdc, RGB(255, 255, 255));
-    BitBlt(hdc, x - 5, y - 5, 12, 12, marks, 24 * mark, 0, SRCAND);
-    SetBkColor(hdc, ink);
-    BitBlt(hdc, x - 5, y - 5, 12, 12, marks, 24 * mark + 12, 0, SRCPAINT);
-    SetBkColor(hdc, back);
-    SetTextColor(hdc, text);
-}
-
-void PriceByHand(HDC hdc, HDC marks, int x, int y, const char* price)
-{
-    const char* point = std::strchr(price, '.');
-    std::string integral(price + 1, point), fraction(point + 1);
-    SIZE whole, part;
-    GetTextExtentPoint32A(hdc, integral.c_str(), static_cast<int>(integral.size()), &whole);
-    GetTextExtentPoint32A(hdc, fraction.c_str(), static_cast<int>(fraction.size()), &part);
-    TextAt(hdc, x + 11, y, integral.c_str());
-    TextAt(hdc, x + 11 + whole.cx, y, fraction.c_str());
-    MarkByHand(hdc, marks, x + 5, y + whole.cy - 8, price[0] == '+' ? 3 : 2, GetTextColor(hdc));
-    MoveToEx(hdc, x + 11 + whole.cx, y + whole.cy - 1, nullptr);
-    LineTo(hdc, x + 11 + whole.cx + part.cx, y + whole.cy - 1);
-}
-
-void AxisByHand(HDC hdc, HPEN pen, int height)
-{
-    int y = height - 30, left = 10, right = kWidth - 10;
-    COLORREF axis = Scheme()->GetColor("AXIS");
-    SelectObject(hdc, pen);
-    SelectObject(hdc, SchemeFontHandle("SMALL"));
-    SetTextColor(hdc, axis);
-    SIZE title;
-    GetTextExtentPoint32A(hdc, "t", 1, &title);
-    TextAt(hdc, right - title.cx, y + 3, "t");
-    MoveToEx(hdc, left, y, nullptr);
-    LineTo(hdc, right, y);
-    LineTo(hdc, right - 4, y - 4);
-    MoveToEx(hdc, right, y, nullptr);
-    LineTo(hdc, right - 4, y + 4);
-    SetTextAlign(hdc, TA_CENTER | TA_TOP);
-    const char* labels[] = {"0", "20", "40", "60", "80"};
-    for (int i = 0; i < 5; ++i) {
-        int x = left + i * (right - left) / 5;
-        MoveToEx(hdc, x, y, nullptr);
-        LineTo(hdc, x, y + 3);
-        TextAt(hdc, x, y + 3, labels[i]);
-    }
-    SetTextAlign(hdc, TA_LEFT | TA_TOP);
-}
-
-void PanelByHand(CDC* target, int rows = kRows)
-{
-    const int height = PanelHeight(rows);
-    HDC hdc = CreateCompatibleDC(target->m_hDC);
-    HBITMAP bitmap = CreateCompatibleBitmap(target->m_hDC, kWidth, height);
-    HGDIOBJ previousBitmap = SelectObject(hdc, bitmap);
-    HDC marks = CreateCompatibleDC(hdc);
-    HGDIOBJ previousMarks = SelectObject(marks, Scheme()->GetBitmap("KIV_MARK")->m_hObject);
-    // Prices are drawn in the context's text colour, black, and underlined in it.
-    HPEN pens[2] = {CreatePen(PS_SOLID, 1, RGB(0, 0, 0)), CreatePen(PS_SOLID, 1, Scheme()->GetColor("AXIS"))};
-    HBRUSH frame = CreateSolidBrush(Scheme()->GetColor("PLUG_FRAME"));
-    HGDIOBJ previousPen = SelectObject(hdc, pens[0]);
-    HGDIOBJ previousFont = SelectObject(hdc, SchemeFontHandle("PLUG_TITLE"));
-
-    RECT all = {0, 0, kWidth, height};
-    SetBkColor(hdc, Scheme()->GetColor("PLUG_BGCOLOR"));
-    ExtTextOutA(hdc, 0, 0, ETO_OPAQUE, &all, nullptr, 0, nullptr);
-    FrameRect(hdc, &all, frame);
-    TEXTMETRICA metrics;
-    GetTextMetricsA(hdc, &metrics);
-    RECT band = {1, 1, kWidth - 1, 1 + metrics.tmHeight + 2};
-    SetBkColor(hdc, Scheme()->GetColor("PLUG_TITLE_BGCOLOR"));
-    ExtTextOutA(hdc, 0, 0, ETO_OPAQUE, &band, nullptr, 0, nullptr);
-    SetTextColor(hdc, Scheme()->GetColor("PLUG_TITLE_TEXT"));
-    DrawTextW(hdc, kTitleWide, -1, &band, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
-
-    SelectObject(hdc, SchemeFontHandle("PLUG_STDFONT"));
-    SetBkMode(hdc, TRANSPARENT);
-    for (int i = 0; i < rows; ++i) {
-        int top = kTop + 2 + i * kRowHeight;
-        HDC row = hdc;
-        SetViewportOrgEx(row, 0, top, nullptr);
-        CaptionByHand(row);
-        SetViewportOrgEx(row, 0, 0, nullptr);
-        SetTextColor(hdc, RGB(0, 0, 0));
-        PriceByHand(hdc, marks, 260, top + 2, kPrices[i % 2]);
-    }
-    AxisByHand(hdc, pens[1], height);
-
-    BitBlt(target->m_hDC, 0, 0, kWidth, height, hdc, 0, 0, SRCCOPY);
-    SelectObject(hdc, previousFont);
-    SelectObject(hdc, previousPen);
-    SelectObject(marks, previousMarks);
-    DeleteDC(marks);
-    SelectObject(hdc, previousBitmap);
-    DeleteObject(bitmap);
-    DeleteDC(hdc);
-    for (HPEN pen : pens) DeleteObject(pen);
-    DeleteObject(frame);
 }
 
 // Where a caption's time goes: the raw calls the kit makes for it, each timed alone. Per text run
@@ -271,56 +115,6 @@ void PrintLoad()
         std::fclose(f);
     }
     std::printf("machine load (1, 5, 15 min; /proc/loadavg): %s", load);
-}
-
-// Where a panel's time goes: each piece timed alone on the canvas, the kit's against the raw
-// calls of the hand-drawn panel (the prices' raw form makes its marks context once for 20).
-void PrintPanelProfile(DibCanvas& kit, DibCanvas& hand)
-{
-    CDC* dc = kit.dc();
-    HDC hdc = hand.dc()->m_hDC;
-    KivDraw draw;
-    auto cost = [](auto call) { return MedianMicroseconds(kRuns, 20, [&](int) { call(); }); };
-    double ulKit = cost([&] { for (int i = 0; i < kRows; ++i) draw.DrawUL(dc, 260, 30 + 20 * i, kPrices[i % 2], 1); });
-    double ulHand = cost([&] {
-        HDC marks = CreateCompatibleDC(hdc);
-        HGDIOBJ previous = SelectObject(marks, Scheme()->GetBitmap("KIV_MARK")->m_hObject);
-        for (int i = 0; i < kRows; ++i) PriceByHand(hdc, marks, 260, 30 + 20 * i, kPrices[i % 2]);
-        SelectObject(marks, previous);
-        DeleteDC(marks);
-    });
-    double plain = cost([&] { for (int i = 0; i < kRows; ++i) draw.DrawUL(dc, 260, 30 + 20 * i, kPrices[i % 2], 0); });
-    double arrow = cost([&] { draw.DrawArrow(dc, 20, 20, 3, RGB(255, 0, 0), 0, 1, false); });
-    double arrows = cost([&] {
-        for (int i = 0; i < kRows; ++i) draw.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, dc->GetTextColor(), 0, 1, false);
-    });
-    double memoryDc = cost([&] { CMemoDC marks(dc, const_cast<CBitmap*>(Scheme()->GetBitmap("KIV_MARK"))); });
-    double rawContext = cost([&] {
-        HDC marks = CreateCompatibleDC(hdc);
-        HGDIOBJ previous = SelectObject(marks, Scheme()->GetBitmap("KIV_MARK")->m_hObject);
-        SelectObject(marks, previous);
-        DeleteDC(marks);
-    });
-    double pen = cost([&] {
-        CPen p;
-        p.CreatePen(PS_SOLID, 1, RGB(0, 0, 0));
-        CPen* previous = dc->SelectObject(&p);
-        dc->SelectObject(previous);
-    });
-    double captions = cost([&] { for (int i = 0; i < kRows; ++i) CaptionByKit(dc); });
-    double captionsHand = cost([&] { for (int i = 0; i < kRows; ++i) CaptionByHand(hdc); });
-    CRect all(0, 0, kWidth, PanelHeight(kRows));
-    double frame = cost([&] {
-        KivDraw::DrawPluginFrame(dc, &all);
-        PluginTitle(kTitle).Draw(dc, CRect(1, 1, kWidth - 1, kTop));
-    });
-    double axis = cost([&] {
-        KivDraw::DrawAxis(dc, 1, {10, 450}, {kWidth - 10, 450}, 0, 100, 5, "t", 0xFFFFFFFF, nullptr, 1, 12);
-    });
-    std::printf("  panel profile (us): 20 prices %.1f (raw %.1f; without their marks %.1f; their 20 marks alone %.1f;\n"
-                "  one mark %.1f, its memory context %.1f (raw CreateCompatibleDC, select, DeleteDC %.1f); an underline\n"
-                "  pen made and selected %.1f), 20 captions %.1f (raw %.1f), frame and title %.1f, axis %.1f\n", ulKit,
-                ulHand, plain, arrows, arrow, memoryDc, rawContext, pen, captions, captionsHand, frame, axis);
 }
 
 // --- Growth -------------------------------------------------------------------------------------
@@ -388,7 +182,7 @@ bool PrintPanelGrowth()
 {
     std::printf("panel growth      rows   kit us   raw us   ratio (10th-90th)   pixels differing\n");
     for (int rows : {5, 20, 80}) {
-        DibCanvas kit(kWidth, PanelHeight(rows)), hand(kWidth, PanelHeight(rows));
+        DibCanvas kit(kWidth, Height(rows)), hand(kWidth, Height(rows));
         PanelByKit(kit.dc(), rows);
         PanelByHand(hand.dc(), rows);
         int differing = Differences(kit, hand);
@@ -434,6 +228,25 @@ void LoadFiles(const std::vector<std::string>& files)
         DeleteObject(LoadImageA(GetModuleHandleA(nullptr), file.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE));
 }
 
+// What a switch adds to the repaints after it: the first panel after LoadStyle (the new scheme's
+// fonts and bitmaps used for the first time) beside the panel after it, on each side.
+void PrintFirstPanels(DibCanvas& kit, DibCanvas& hand, const char* const schemes[2])
+{
+    std::vector<double> times[4];  // kit first, kit next, raw first, raw next
+    auto byKit = [&](int) { PanelByKit(kit.dc()); };
+    auto byHand = [&](int) { PanelByHand(hand.dc()); };
+    for (int r = 0; r < kRuns; ++r) {
+        Scheme()->LoadStyle(schemes[r % 2]);
+        times[0].push_back(MicrosecondsPerCall(1, byKit));
+        times[1].push_back(MicrosecondsPerCall(1, byKit));
+        Scheme()->LoadStyle(schemes[(r + 1) % 2]);
+        times[2].push_back(MicrosecondsPerCall(1, byHand));
+        times[3].push_back(MicrosecondsPerCall(1, byHand));
+    }
+    std::printf("  the first panel after LoadStyle: kit %.0f us (the next one %.0f), raw %.0f us (the next one %.0f)\n",
+                Quantile(times[0], 0.5), Quantile(times[1], 0.5), Quantile(times[2], 0.5), Quantile(times[3], 0.5));
+}
+
 void PrintSchemeSwitch(DibCanvas& kit, DibCanvas& hand)
 {
     const char* const schemes[2] = {"light", "dark"};
@@ -454,6 +267,8 @@ void PrintSchemeSwitch(DibCanvas& kit, DibCanvas& hand)
     std::printf("  LoadStyle alone %.2f ms; its platform floor, LoadImage of the scheme's %d bitmap files, %.2f ms "
                 "(ratio %.2f, %.2f-%.2f)\n", loading.subject / 1000, int(files[0].size()), loading.baseline / 1000,
                 loading.ratio, loading.ratioLow, loading.ratioHigh);
+    std::printf("  (style_load_bench takes LoadStyle apart: parsing, colours, fonts, image files, image lists)\n");
+    PrintFirstPanels(kit, hand, schemes);
 }
 
 }  // namespace
@@ -469,7 +284,7 @@ int main()
         return 1;
     }
     PrintLoad();
-    DibCanvas kit(kWidth, PanelHeight(kRows)), hand(kWidth, PanelHeight(kRows));
+    DibCanvas kit(kWidth, Height(kRows)), hand(kWidth, Height(kRows));
     HGDIOBJ fonts[2];
     for (DibCanvas* t : {&kit, &hand}) {
         fonts[t == &hand] = SelectObject(t->dc()->m_hDC, SchemeFontHandle("PLUG_STDFONT"));
@@ -489,6 +304,8 @@ int main()
     if (!SamePicture("panel", kit, hand)) return 1;
     Print("panel repaint", Compare(kRuns, 20, [&](int) { PanelByKit(kit.dc()); }, [&](int) { PanelByHand(hand.dc()); }),
           "<= 1.3");
+    PanelByHand(hand.dc(), kRows, kPricesBySteps);
+    if (!SamePicture("panel, raw by the kit's steps for prices,", kit, hand)) return 1;
     PrintPanelProfile(kit, hand);
     PrintSchemeSwitch(kit, hand);
     bool grown = PrintCaptionGrowth() && PrintPanelGrowth();

@@ -57,7 +57,8 @@ CMemoDC::CMemoDC(CDC* dc) { CreateContext(dc); }
 
 CMemoDC::~CMemoDC()
 {
-    if (m_pPrevBitmap != nullptr) SelectObject(m_pPrevBitmap);
+    // The handle alone: the framework's wrapper of what it replaces is not wanted.
+    if (m_pPrevBitmap != nullptr) ::SelectObject(m_hDC, m_pPrevBitmap->m_hObject);
 }
 
 void CMemoDC::LoadBmp(CBitmap* bitmap) { SelectBitmap(bitmap ? bitmap->m_hObject : nullptr); }
