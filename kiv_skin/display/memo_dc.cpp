@@ -57,8 +57,7 @@ CMemoDC::CMemoDC(CDC* dc) { CreateContext(dc); }
 
 CMemoDC::~CMemoDC()
 {
-    // The handle alone: the framework's wrapper of what it replaces is not wanted.
-    if (m_pPrevBitmap != nullptr) ::SelectObject(m_hDC, m_pPrevBitmap->m_hObject);
+    if (m_pPrevBitmap != nullptr) SelectObject(m_pPrevBitmap);
 }
 
 void CMemoDC::LoadBmp(CBitmap* bitmap) { SelectBitmap(bitmap ? bitmap->m_hObject : nullptr); }

@@ -14,33 +14,9 @@ const COLORREF kWhite = RGB(255, 255, 255);
 
 bool CanStretch(CDC* dc) { return (dc->GetDeviceCaps(RASTERCAPS) & RC_STRETCHBLT) != 0; }
 
-// The strip selected into a memory context compatible with dc, for the copies of one mark: the
-// context and the selections a CMemoDC on the caller's bitmap makes, without the framework's
-// handle-map entries or the size read that nothing here uses. Fails as CMemoDC does.
-class StripContext {
-public:
-    StripContext(CDC* dc, CBitmap* strip) : m_hDC(::CreateCompatibleDC(dc->m_hDC))
-    {
-        if (m_hDC == nullptr) AfxThrowResourceException();
-        m_previous = ::SelectObject(m_hDC, strip->m_hObject);
-    }
-    ~StripContext()
-    {
-        ::SelectObject(m_hDC, m_previous);
-        ::DeleteDC(m_hDC);
-    }
-    StripContext(const StripContext&) = delete;
-    StripContext& operator=(const StripContext&) = delete;
-    HDC hdc() const { return m_hDC; }
-
-private:
-    HDC m_hDC;
-    HGDIOBJ m_previous;
-};
-
 // Paints the mask's ink (its black pixels) in color, scale by scale units per pixel, where the
 // context cannot stretch.
-void PaintMaskByHand(CDC* target, const StripContext& marks, int mark, COLORREF color, int scale)
+void PaintMaskByHand(CDC* target, CMemoDC& marks, int mark, COLORREF color, int scale)
 {
     CPen pen;
     pen.CreatePen(PS_SOLID, 1, color);
@@ -50,7 +26,7 @@ void PaintMaskByHand(CDC* target, const StripContext& marks, int mark, COLORREF 
     CBrush* previousBrush = target->SelectObject(&brush);
     for (int j = 0; j < kCell; ++j)
         for (int i = 0; i < kCell; ++i)
-            if (::GetPixel(marks.hdc(), kMarkPitch * mark + i, j) == 0)
+            if (marks.GetPixel(kMarkPitch * mark + i, j) == 0)
                 target->Rectangle(scale * i, scale * j, scale * (i + 1), scale * j + scale);
     target->SelectObject(previousBrush);
     target->SelectObject(previousPen);
@@ -58,7 +34,7 @@ void PaintMaskByHand(CDC* target, const StripContext& marks, int mark, COLORREF 
 
 // The mark enlarged scale times in a square of its own that starts as a copy of what lies at
 // origin, then copied back.
-void DrawScaledMark(CDC* dc, const StripContext& marks, int mark, COLORREF color, int scale, CPoint origin)
+void DrawScaledMark(CDC* dc, CMemoDC& marks, int mark, COLORREF color, int scale, CPoint origin)
 {
     int size = kCell * scale;
     CMemoDC square(dc, size, size, kWhite);
@@ -66,9 +42,9 @@ void DrawScaledMark(CDC* dc, const StripContext& marks, int mark, COLORREF color
     square.SetBkColor(kWhite);
     square.BitBlt(0, 0, size, size, dc, origin.x, origin.y, SRCCOPY);
     if (CanStretch(&square)) {
-        ::StretchBlt(square.m_hDC, 0, 0, size, size, marks.hdc(), kMarkPitch * mark, 0, kCell, kCell, SRCAND);
+        square.StretchBlt(0, 0, size, size, &marks, kMarkPitch * mark, 0, kCell, kCell, SRCAND);
         square.SetBkColor(color);
-        ::StretchBlt(square.m_hDC, 0, 0, size, size, marks.hdc(), kMarkPitch * mark + kCell, 0, kCell, kCell, SRCPAINT);
+        square.StretchBlt(0, 0, size, size, &marks, kMarkPitch * mark + kCell, 0, kCell, kCell, SRCPAINT);
     } else {
         PaintMaskByHand(&square, marks, mark, color, scale);
     }
@@ -83,15 +59,15 @@ void KivDraw::DrawArrow(CDC* dc, int x, int y, int mark, COLORREF color, int fra
     COLORREF previousInk = dc->SetTextColor(kBlack);
     CBitmap* strip = SchemeBitmap("KIV_MARK");
     if (strip == nullptr) return;  // the text colour stays black: callers rely on nothing else
-    StripContext marks(dc, strip);
+    CMemoDC marks(dc, strip);
     COLORREF previousBack = dc->SetBkColor(kWhite);
     int half = (mark == kSmallMark ? 3 : 6) * scale;
     int frame = (mark == kSmallMark ? 7 : 13) * scale;
     CRect frameRect;
     if (scale == 1) {
-        ::BitBlt(dc->m_hDC, x - 5, y - 5, kCell, kCell, marks.hdc(), kMarkPitch * mark, 0, SRCAND);
+        dc->BitBlt(x - 5, y - 5, kCell, kCell, &marks, kMarkPitch * mark, 0, SRCAND);
         dc->SetBkColor(color);
-        ::BitBlt(dc->m_hDC, x - 5, y - 5, kCell, kCell, marks.hdc(), kMarkPitch * mark + kCell, 0, SRCPAINT);
+        dc->BitBlt(x - 5, y - 5, kCell, kCell, &marks, kMarkPitch * mark + kCell, 0, SRCPAINT);
         frameRect.SetRect(x - half, y - 5, x - half + frame, y - 5 + frame);
     } else {
         CPoint origin(x - 5 * scale, y - 5 * scale);
