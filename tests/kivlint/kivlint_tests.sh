@@ -116,24 +116,22 @@ finds lookup "lookup/$light" "$(line_of "lookup/$light" PLUG_TITLE_BGCOLOR)" 'wa
 says lookup '^kivlint: 1 errors, 3 warnings$'
 
 # Rise, flat and fall that only one deficiency merges: each check names its own and no other.
-passing protan
-colour "protan/$light" DOWNTEXT 0x00878200
-colour "protan/$light" EQUTEXT 0x006E5FAA
-lint protan 0 --root protan light
-finds protan "protan/$light" "$(line_of "protan/$light" DOWNTEXT)" 'warning: under protanopia "DOWNTEXT" 0x00878200 (#008287) and "EQUTEXT" 0x006E5FAA (#AA5F6E) are 7.9 apart in CIEDE2000 (10 needed; 53.3 with normal vision); the rise and fall marks that DrawArrow and DrawUL draw before a price still tell the direction without colour'
-says protan '^kivlint: 0 errors, 1 warnings$'
-passing deutan
-colour "deutan/$light" UPTEXT 0x00460FE6
-colour "deutan/$light" DOWNTEXT 0x00378700
-lint deutan 0 --root deutan light
-finds deutan "deutan/$light" "$(line_of "deutan/$light" UPTEXT)" 'warning: under deuteranopia "UPTEXT" 0x00460FE6 (#E60F46) and "DOWNTEXT" 0x00378700 (#008737) are 7.7 apart in CIEDE2000 (10 needed; 75.6 with normal vision); the rise and fall marks that DrawArrow and DrawUL draw before a price still tell the direction without colour'
-says deutan '^kivlint: 0 errors, 1 warnings$'
-passing tritan
-colour "tritan/$light" UPTEXT 0x00AF7D00
-colour "tritan/$light" DOWNTEXT 0x003C8700
-lint tritan 0 --root tritan light
-finds tritan "tritan/$light" "$(line_of "tritan/$light" UPTEXT)" 'warning: under tritanopia "UPTEXT" 0x00AF7D00 (#007DAF) and "DOWNTEXT" 0x003C8700 (#00873C) are 7.8 apart in CIEDE2000 (10 needed; 42.8 with normal vision); the rise and fall marks that DrawArrow and DrawUL draw before a price still tell the direction without colour'
-says tritan '^kivlint: 0 errors, 1 warnings$'
+# merges NAME KEY VALUE KEY2 VALUE2 WARNING: the passing light scheme with two direction colours
+# changed gives one warning, at the first key's line.
+merges() {
+  passing "$1"
+  colour "$1/$light" "$2" "$3"
+  colour "$1/$light" "$4" "$5"
+  lint "$1" 0 --root "$1" light
+  finds "$1" "$1/$light" "$(line_of "$1/$light" "$2")" "$6"
+  says "$1" '^kivlint: 0 errors, 1 warnings$'
+}
+merges protan DOWNTEXT 0x00878200 EQUTEXT 0x006E5FAA \
+  'warning: under protanopia "DOWNTEXT" 0x00878200 (#008287) and "EQUTEXT" 0x006E5FAA (#AA5F6E) are 7.9 apart in CIEDE2000 (10 needed; 53.3 with normal vision); the rise and fall marks that DrawArrow and DrawUL draw before a price still tell the direction without colour'
+merges deutan UPTEXT 0x00460FE6 DOWNTEXT 0x00378700 \
+  'warning: under deuteranopia "UPTEXT" 0x00460FE6 (#E60F46) and "DOWNTEXT" 0x00378700 (#008737) are 7.7 apart in CIEDE2000 (10 needed; 75.6 with normal vision); the rise and fall marks that DrawArrow and DrawUL draw before a price still tell the direction without colour'
+merges tritan UPTEXT 0x00AF7D00 DOWNTEXT 0x003C8700 \
+  'warning: under tritanopia "UPTEXT" 0x00AF7D00 (#007DAF) and "DOWNTEXT" 0x003C8700 (#00873C) are 7.8 apart in CIEDE2000 (10 needed; 42.8 with normal vision); the rise and fall marks that DrawArrow and DrawUL draw before a price still tell the direction without colour'
 
 # Fonts: a face name one byte over the limit (and one at it), a missing key.
 fresh f
