@@ -117,6 +117,13 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
     RawTools tools = MakeRawTools(hdc);
     HGDIOBJ previousFont = RawTitle(hdc);
     COLORREF ink = dc->GetTextColor();
+    // The panel's 20 rows, caption and price in turn, as the kit draws them.
+    auto kitRows = [&] {
+        Rows([&](int i) {
+            KitCaptionRow(dc, i);
+            KitPriceRow(kit, dc, i);
+        });
+    };
     double fill = Cost([&] { PatBlt(hdc, 0, 0, kWidth, height, PATCOPY); });
     double unpainted = Cost([&] { RawSurface(handCanvas->m_hDC, height, false); });
     std::vector<Piece> pieces = {
@@ -137,23 +144,13 @@ void PrintPieces(CDC* kitCanvas, CDC* handCanvas)
         {"  of them the 20 marks",
          [&] { Rows([&](int i) { kit.DrawArrow(dc, 265, 40 + 20 * i, 3 - i % 2, ink, 0, 1, false); }); },
          [&] { Rows([&](int i) { MarkByHand(hdc, tools.marks, 265, 40 + 20 * i, 3 - i % 2, 0); }); }, Piece::kPart},
-        {"  the same 20 rows, caption and price in turn", [&] {
-             Rows([&](int i) {
-                 KitCaptionRow(dc, i);
-                 KitPriceRow(kit, dc, i);
-             });
-         }, [&] {
+        {"  the same 20 rows, caption and price in turn", kitRows, [&] {
              Rows([&](int i) {
                  RawCaptionRow(hdc, i);
                  RawPriceRow(hdc, tools, i);
              });
          }, Piece::kCheck},
-        {"  the same, raw by the kit's steps for prices", [&] {
-             Rows([&](int i) {
-                 KitCaptionRow(dc, i);
-                 KitPriceRow(kit, dc, i);
-             });
-         }, [&] {
+        {"  the same, raw by the kit's steps for prices", kitRows, [&] {
              Rows([&](int i) {
                  RawCaptionRow(hdc, i);
                  RawPriceRowBySteps(hdc, i);

@@ -1,7 +1,5 @@
 #include "demo/report_style.h"
 #include "kiv_skin/intl/kiv_text_out.h"
-#include <cmath>
-#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -57,21 +55,6 @@ void DrawSign(CDC* dc, int x, int y, bool tick)
 }
 
 }  // namespace
-
-std::string Cut(double value, int decimals)
-{
-    const double scale = std::pow(10.0, decimals);
-    char text[48];
-    std::snprintf(text, sizeof(text), "%.*f", decimals, std::floor(value * scale + 1e-9) / scale);
-    return text;
-}
-
-std::string Plain(double value)
-{
-    char text[48];
-    std::snprintf(text, sizeof(text), "%g", value);
-    return text;
-}
 
 void ReportText(CDC* dc, const char* text, const CRect& box, ReportFont font, COLORREF color, UINT format)
 {

@@ -3,6 +3,7 @@
 // scheme, so that a report stays readable when the scheme's own colours fail it.
 #pragma once
 #include <afxwin.h>
+#include "tools/kivlint/figure_text.h"
 #include <string>
 
 const COLORREF kReportPage = RGB(250, 250, 248);
@@ -13,10 +14,9 @@ const COLORREF kReportPass = RGB(0, 122, 51);
 const COLORREF kReportFail = RGB(196, 20, 28);
 const UINT kReportLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
 
-// Figures as kivlint prints them: cut (not rounded) to their decimals, so that one that fails
-// never prints as the one needed; and needed figures as people write them (4.5, 3, 10).
-std::string Cut(double value, int decimals);
-std::string Plain(double value);
+// Figures as kivlint prints them.
+using kivlint::Cut;
+using kivlint::Plain;
 
 enum class ReportFont { Body, Bold, Heading };
 

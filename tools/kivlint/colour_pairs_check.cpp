@@ -2,21 +2,13 @@
 // contrast it needs, and the direction colours under each colour-vision deficiency.
 #include "colour_vision.h"
 #include "drawn_pairs.h"
+#include "figure_text.h"
 #include "scheme_checks.h"
-#include <cmath>
 #include <cstdio>
 #include <initializer_list>
 
 namespace kivlint {
 namespace {
-
-// 4.5, 3, 10: a figure as people write it.
-std::string Plain(double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof text, "%g", value);
-    return text;
-}
 
 // "0x00BBGGRR (#RRGGBB)": the file's own form, then the one colour pickers show.
 std::string Written(SchemeColour colour)
@@ -28,15 +20,6 @@ std::string Written(SchemeColour colour)
 }
 
 std::string Named(const std::string& key, SchemeColour colour) { return "\"" + key + "\" " + Written(colour); }
-
-// A figure cut (not rounded) to its decimals, so that one that fails never prints as the one needed.
-std::string Cut(double value, int decimals)
-{
-    const double scale = std::pow(10.0, decimals);
-    char text[32];
-    std::snprintf(text, sizeof text, "%.*f", decimals, std::floor(value * scale + 1e-9) / scale);
-    return text;
-}
 
 // The line of the first key's definition, else the second's, else the fallback's.
 int LineOf(const SchemeColourTable& colours, const std::string& first, const std::string& second)
