@@ -19,6 +19,10 @@ else()
   install(TARGETS afx_compat EXPORT kiv_skin_targets FILE_SET HEADERS DESTINATION include/compat)
 endif()
 install(TARGETS moxc kivlint RUNTIME DESTINATION bin)
+# On x86 the modules load MinGW's runtime DLLs, which the package ships beside them.
+if(KIV_MINGW_RUNTIME_DLLS)
+  install(FILES ${KIV_MINGW_RUNTIME_DLLS} DESTINATION bin)
+endif()
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/schemes/cfg ${PROJECT_SOURCE_DIR}/schemes/skin
   DESTINATION share/kiv_skin/schemes)
 
@@ -28,6 +32,11 @@ if(CMAKE_SIZEOF_VOID_P EQUAL 4)
 else()
   set(KIV_PACKAGE_ARCH x64)
 endif()
+set(KIV_MINGW_RUNTIME_DLL_NAMES)
+foreach(dll IN LISTS KIV_MINGW_RUNTIME_DLLS)
+  get_filename_component(name ${dll} NAME)
+  list(APPEND KIV_MINGW_RUNTIME_DLL_NAMES ${name})
+endforeach()
 configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/kiv_skinConfig.cmake.in
   ${PROJECT_BINARY_DIR}/kiv_skinConfig.cmake INSTALL_DESTINATION ${kiv_package_dir})
 # The architecture is checked by kiv_skinConfig.cmake, which says what is wrong; the version file

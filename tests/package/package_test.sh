@@ -21,6 +21,11 @@ for file in bin/kiv_skin.dll bin/kiv_base.dll bin/kiv_core.dll bin/moxc.exe bin/
             lib/cmake/kiv_skin/kiv_skinConfigVersion.cmake share/kiv_skin/schemes/cfg/kiv_skin/style.xml; do
   check test -f "$prefix/$file"
 done
+# x86 modules share MinGW's runtime DLLs, which the package ships and names; x64 ones carry theirs.
+runtime=(libgcc_s_dw2-1.dll libstdc++-6.dll libwinpthread-1.dll)
+for dll in "${runtime[@]}"; do
+  if grep -q i686 "$toolchain"; then check test -f "$prefix/bin/$dll"; else check test ! -e "$prefix/bin/$dll"; fi
+done
 # Public headers only: every header that exports something is installed, and nothing else is.
 exported=$(cd "$source_root" && grep -rl 'KIV_SKIN_API' kiv_skin --include='*.h' | sort)
 installed=$(cd "$prefix/include" && find kiv_skin -name '*.h' | sort)
@@ -40,6 +45,9 @@ cmake -S "$source_root/examples/quote_panel" -B example -G Ninja -DCMAKE_BUILD_T
 check grep -q "Found kiv_skin $version\$" configure.log
 cmake --build example >build.log 2>&1 || { cat build.log; exit 1; }
 check grep -q "$prefix/include" example/build.ninja
+if grep -q i686 "$toolchain"; then
+  for dll in "${runtime[@]}"; do check test -f "example/$dll"; done
+fi
 checks=$((checks + 1))
 grep -q "$source_root/kiv_skin\|$source_root/compat" example/build.ninja && fail "the example reaches into the source tree"
 (cd example && "$source_root/cmake/wine-run" paint_panel.exe "panel.bmp") >run.log 2>&1 || fail "paint_panel failed: $(cat run.log)"
