@@ -49,9 +49,34 @@ RECT CStyleDlg::ControlArea(int id, int inset, int insetTop, int insetBottom) co
     return area;
 }
 
+INT_PTR CStyleDlg::DoModal()
+{
+    m_heldError = nullptr;
+    INT_PTR answer = CDialogEx::DoModal();
+    if (m_heldError) std::rethrow_exception(m_heldError);
+    return answer;
+}
+
+// The first exception is kept; the dialog ends as soon as the system's code regains control.
+template <class Work> void CStyleDlg::EndOnError(Work work)
+{
+    try {
+        work();
+    } catch (...) {
+        if (!m_heldError) m_heldError = std::current_exception();
+        EndDialog(IDABORT);
+    }
+}
+
 BOOL CStyleDlg::OnInitDialog()
 {
     CDialogEx::OnInitDialog();
+    EndOnError([this] { InitControls(); });
+    return TRUE;
+}
+
+void CStyleDlg::InitControls()
+{
     m_bInited = 0;
     m_nHotRow = -1;
     m_bPreviewDrawn = 0;
@@ -62,18 +87,17 @@ BOOL CStyleDlg::OnInitDialog()
     m_rcFont = ControlArea(IDC_GROUP_FONT, 10, 14, 10);
     m_rcPreview = ControlArea(IDC_GROUP_PREVIEW, 4, 16, 4);
     StyleCatalogue* catalogue = StyleCatalogue::Instance();
-    if (!catalogue->LoadCatalogue()) return TRUE;
+    if (!catalogue->LoadCatalogue()) return;
     m_vecStyles = catalogue->m_entries;
     FillStyleCombo();
     m_strStyle = Element(m_vecStyles, 0).name;
-    OnCbnSelchangeComboStyle();
+    ChangeScheme();
     ColorList()->SetCurSel(0);
-    OnLbnSelchangeListColor();
+    SelectColorRow();
     FontList()->SetCurSel(0);
-    OnLbnSelchangeListFont();
+    SelectFontRow();
     m_bInited = 1;
     SetTimer(kClockTimer, kClockPeriod, nullptr);
-    return TRUE;
 }
 
 void CStyleDlg::FillStyleCombo()
@@ -85,7 +109,13 @@ void CStyleDlg::FillStyleCombo()
 
 // A scheme switch: edits of the scheme left behind are saved or dropped, as the user answers,
 // and the newly chosen scheme is loaded into the working copy.
-void CStyleDlg::OnCbnSelchangeComboStyle()
+void CStyleDlg::OnCbnSelchangeComboStyle() { EndOnError([this] { ChangeScheme(); }); }
+void CStyleDlg::OnLbnSelchangeListColor() { EndOnError([this] { SelectColorRow(); }); }
+void CStyleDlg::OnLbnSelchangeListFont() { EndOnError([this] { SelectFontRow(); }); }
+void CStyleDlg::OnBnClickedButtonColor() { EndOnError([this] { EditColor(); }); }
+void CStyleDlg::OnBnClickedButtonFont() { EndOnError([this] { EditFont(); }); }
+
+void CStyleDlg::ChangeScheme()
 {
     CComboBox* combo = StyleCombo();
     int index = combo->GetCurSel();
@@ -156,7 +186,7 @@ void CStyleDlg::FillFontList(int index)
     list->SetCurSel(0);
 }
 
-void CStyleDlg::OnLbnSelchangeListColor()
+void CStyleDlg::SelectColorRow()
 {
     int row = ColorList()->GetCurSel();
     if (row == LB_ERR) return;
@@ -172,7 +202,7 @@ void CStyleDlg::OnLbnSelchangeListColor()
     RepaintColorAndPreview();
 }
 
-void CStyleDlg::OnLbnSelchangeListFont()
+void CStyleDlg::SelectFontRow()
 {
     int row = FontList()->GetCurSel();
     if (row == LB_ERR) return;

@@ -6,6 +6,7 @@
 #include "kiv_skin/styledlg/style_dlg_ids.h"
 #include <afxdialogex.h>
 #include <afxwin.h>
+#include <exception>
 #include <stdexcept>
 #include <vector>
 
@@ -17,6 +18,10 @@ public:
     static const int kRowCount = 3;
 
     explicit CStyleDlg(CWnd* pParent = NULL);
+
+    // Runs the dialog; an exception that one of its handlers raised ended it and is raised again
+    // here, after the system's dialog code has returned.
+    INT_PTR DoModal() override;
 
     // After DoModal, the caller reads m_vecSavedStyles, the two modified flags and m_strStyle.
     CString m_strColorKey;
@@ -56,6 +61,16 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // The handlers run inside the system's dialog code, which an exception must not cross: each
+    // runs its work through EndOnError, which holds the exception and ends the dialog.
+    template <class Work> void EndOnError(Work work);
+    void InitControls();
+    void ChangeScheme();
+    void SelectColorRow();
+    void SelectFontRow();
+    void EditColor();
+    void EditFont();
+
     CComboBox* StyleCombo() const;
     CListBox* ColorList() const;
     CListBox* FontList() const;
@@ -77,6 +92,8 @@ private:
     void DrawTitle(CDC* pDC, const CRect& inner);
     void DrawRows(CDC* pDC, const CRect& inner, CPen* gridPen);
     COLORREF WorkColor(const char* key) const;
+
+    std::exception_ptr m_heldError;
 };
 
 // The element at index, or the out-of-range error "invalid vector<T> subscript": a scheme index

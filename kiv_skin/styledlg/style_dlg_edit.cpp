@@ -8,7 +8,7 @@ namespace kiv_skin {
 
 // Choosing the colour shown again leaves the scheme unmodified but still writes the colour into
 // the working table, under the key of the row being edited.
-void CStyleDlg::OnBnClickedButtonColor()
+void CStyleDlg::EditColor()
 {
     COLORREF customColors[16] = {};
     CHOOSECOLORA choice = {};
@@ -33,7 +33,7 @@ void CStyleDlg::OnBnClickedButtonColor()
 }
 
 // Only the face name and the point size chosen are taken over.
-void CStyleDlg::OnBnClickedButtonFont()
+void CStyleDlg::EditFont()
 {
     CFontDialog dialog(NULL, CF_SCREENFONTS | CF_EFFECTS, NULL, this);
     if (dialog.DoModal() != IDOK) return;
