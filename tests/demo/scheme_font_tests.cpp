@@ -65,9 +65,10 @@ TEST(SchemeFont, SimSunsNamesGiveTheMappedSongFace)
 
 TEST(SchemeFont, AsciiLettersTakeOneWidthHalfAChineseCharacter)
 {
-    // The schemes' sizes at 96 DPI (-11, -12) and scaled to 120 and 144 DPI (-15, -18).
+    // The schemes' sizes at 96 DPI (-11, -12) and scaled to 120, 144 and 192 DPI (-15, -18;
+    // -22, -24, drawn from the outlines, above the face's bitmap sizes).
     for (const char* name : kSimSunNames)
-        for (int height : {-11, -12, -15, -18})
+        for (int height : {-11, -12, -15, -18, -22, -24})
             for (int weight : {FW_NORMAL, FW_BOLD}) {
                 FontInDc font(name, height, weight);
                 // The walk counts a blank by the width of code 31, so the codes below 32 count too.

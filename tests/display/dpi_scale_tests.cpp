@@ -177,3 +177,27 @@ TEST(WorkingDirectoryAt120, CopyAssignmentCopiesTheSettings)
     EXPECT_EQ(25, copy.XLP2DP(10));
     EXPECT_EQ(4, copy.XDP2LP(10));
 }
+
+// A 200 % screen: a logical unit is two pixels, and a pixel is half a unit, halves rounding away
+// from zero.
+TEST(NoIniAt192, UnitsDoubleAndPixelsHalve)
+{
+    ASSERT_EQ(192, ScreenDpi(LOGPIXELSX));
+    ASSERT_EQ(192, ScreenDpi(LOGPIXELSY));
+    DPIScale* dpi = DPIScale::GetInstance();
+    EXPECT_EQ(20, dpi->XLP2DP(10));
+    EXPECT_EQ(-20, dpi->YLP2DP(-10));
+    EXPECT_EQ(2, dpi->XDP2LP(3));
+    EXPECT_EQ(-2, dpi->YDP2LP(-3));
+    EXPECT_EQ(1, dpi->XDP2LP(1));
+    EXPECT_EQ(CRect(2, 4, 880, 400), dpi->LP2DP(CRect(1, 2, 440, 200)));
+    EXPECT_EQ(CRect(1, 1, 440, 200), dpi->DP2LP(CRect(1, 2, 879, 399)));
+}
+
+// Twice a value past half the integer range no longer fits: the conversion answers -1.
+TEST(NoIniAt192, DoublingPastTheIntegerRangeGivesMinusOne)
+{
+    DPIScale* dpi = DPIScale::GetInstance();
+    EXPECT_EQ(2147483646, dpi->XLP2DP(1073741823));
+    EXPECT_EQ(-1, dpi->XLP2DP(1073741824));
+}

@@ -1,6 +1,6 @@
 // The font table: reading a scheme's "fonts" section into GDI fonts, look-ups, replacing one
-// font, and writing the section back. Suites named ...At120 run in a 120-DPI process; the
-// working directory's cfg\dpi.ini sets the design DPI (see CMakeLists.txt).
+// font, and writing the section back. Suites named ...At120 or ...At192 run in a process of that
+// screen DPI; the working directory's cfg\dpi.ini sets the design DPI (see CMakeLists.txt).
 #include "kiv_skin/style/font_table.h"
 #include "support/dc_state.h"
 #include "support/test_files.h"
@@ -65,6 +65,7 @@ protected:
 class Fonts : public FontFileTest {};
 class FontsAt96 : public FontFileTest {};
 class FontsAt120 : public FontFileTest {};
+class FontsAt192 : public FontFileTest {};
 class FontsScaleOffAt120 : public FontFileTest {};
 class FontsAxesAt120 : public FontFileTest {};
 
@@ -434,6 +435,20 @@ TEST_F(FontsAt120, ReplacedFontsAreNotScaled)
     ASSERT_TRUE(source.CreateFontIndirect(&wanted));
     ASSERT_TRUE(SetFont(table, "S", &source, ""));
     EXPECT_EQ(-12, Of("S").lfHeight);
+}
+
+// A 200 % screen doubles every size; a save writes the doubled sizes, which the next load
+// doubles again.
+TEST_F(FontsAt192, SizesDoubleAndEachSaveCycleDoublesThemAgain)
+{
+    ASSERT_TRUE(Load(ScaledFonts()));
+    EXPECT_EQ(-32, Of("DEFAULT").lfHeight);
+    EXPECT_EQ(-24, Of("S").lfHeight);
+    EXPECT_EQ(16, Of("S").lfWidth);
+    ASSERT_TRUE(SaveFonts(table, Path("scheme.xml")));
+    ASSERT_TRUE(LoadFonts(Path("scheme.xml"), table));
+    EXPECT_EQ(-48, Of("S").lfHeight);
+    EXPECT_EQ(32, Of("S").lfWidth);
 }
 
 TEST_F(FontsScaleOffAt120, SizesStayAsWritten)
