@@ -55,11 +55,11 @@ protected:
     {
         LOGFONTA lf = {};
         lf.lfHeight = -10;
-        small.CreateFontIndirect(&lf);
+        smallFont.CreateFontIndirect(&lf);
         lf.lfHeight = -40;
-        large.CreateFontIndirect(&lf);
-        oldOut = SelectObject(output.dc()->m_hDC, small);
-        oldAttrib = SelectObject(attrib.dc()->m_hDC, large);
+        largeFont.CreateFontIndirect(&lf);
+        oldOut = SelectObject(output.dc()->m_hDC, smallFont);
+        oldAttrib = SelectObject(attrib.dc()->m_hDC, largeFont);
         split.m_hDC = output.dc()->m_hDC;
         split.m_hAttribDC = attrib.dc()->m_hDC;
     }
@@ -71,7 +71,7 @@ protected:
     }
     DibCanvas output{8, 8};
     DibCanvas attrib{8, 8};
-    CFont small, large;
+    CFont smallFont, largeFont;
     HGDIOBJ oldOut = nullptr, oldAttrib = nullptr;
     CDC split;
 };
@@ -148,7 +148,7 @@ TEST_F(SplitHandles, ClippingActsOnBothHandles)
 
 TEST_F(SplitHandles, CurrentObjectsComeFromTheAttributeHandle)
 {
-    EXPECT_EQ(&large, split.GetCurrentFont());
+    EXPECT_EQ(&largeFont, split.GetCurrentFont());
     EXPECT_EQ(GetCurrentObject(split.m_hAttribDC, OBJ_BITMAP), split.GetCurrentBitmap()->m_hObject);
 }
 

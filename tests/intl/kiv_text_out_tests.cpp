@@ -246,7 +246,7 @@ TEST(KivTextOutMeasure, ExtentsCountUtf16CodeUnits)
 TEST(KivTextOutMeasure, AttributeHandleForTextExtentOutputHandleForOutputExtent)
 {
     DibCanvas output(10, 10), attribute(10, 10);
-    CjkFont small(output.dc()->m_hDC, 12), large(attribute.dc()->m_hDC, 36);
+    CjkFont smallFont(output.dc()->m_hDC, 12), largeFont(attribute.dc()->m_hDC, 36);
     SIZE smallSize, largeSize;
     GetTextExtentPoint32W(output.dc()->m_hDC, kChineseW, 3, &smallSize);
     GetTextExtentPoint32W(attribute.dc()->m_hDC, kChineseW, 3, &largeSize);
